@@ -1,0 +1,40 @@
+# How every target of the project is built, and one function per kind of target.
+
+find_package(PkgConfig REQUIRED)
+find_library(CUPS_LIBRARY cups REQUIRED)
+find_library(CUPSIMAGE_LIBRARY cupsimage REQUIRED)
+pkg_check_modules(PLIST REQUIRED IMPORTED_TARGET libplist-2.0)
+
+add_library(gdi_flags INTERFACE)
+target_include_directories(gdi_flags INTERFACE ${PROJECT_SOURCE_DIR})
+target_compile_options(gdi_flags INTERFACE
+  -Wall -Wextra -Wpedantic -Wconversion -Wshadow
+  # Floating-point results must not depend on the compiler: screens are data.
+  -ffp-contract=off
+  $<$<BOOL:${GDI_WERROR}>:-Werror>)
+if(GDI_SANITIZE)
+  target_compile_options(gdi_flags INTERFACE
+    -fsanitize=${GDI_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(gdi_flags INTERFACE -fsanitize=${GDI_SANITIZE})
+endif()
+if(GDI_COVERAGE)
+  target_compile_options(gdi_flags INTERFACE --coverage -O0)
+  target_link_options(gdi_flags INTERFACE --coverage)
+endif()
+
+# gdi_library(NAME SOURCES file... [DEPENDS target...]): the static library gdi_NAME of one folder.
+function(gdi_library name)
+  cmake_parse_arguments(ARG "" "" "SOURCES;DEPENDS" ${ARGN})
+  add_library(gdi_${name} STATIC ${ARG_SOURCES})
+  target_link_libraries(gdi_${name} PUBLIC gdi_flags ${ARG_DEPENDS})
+endfunction()
+
+# gdi_test(NAME SOURCES file... DEPENDS target...): one GoogleTest program, its tests found by CTest.
+function(gdi_test name)
+  cmake_parse_arguments(ARG "" "" "SOURCES;DEPENDS" ${ARGN})
+  add_executable(${name} ${ARG_SOURCES})
+  set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
+  target_link_libraries(${name} PRIVATE gdi_flags ${ARG_DEPENDS} GTest::gtest GTest::gtest_main)
+  gtest_discover_tests(${name} TEST_PREFIX "${name}." DISCOVERY_TIMEOUT 60
+                       PROPERTIES TIMEOUT 120)
+endfunction()

@@ -1,0 +1,132 @@
+// SPDX-FileCopyrightText: 2026 The rasterToGDI authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "filter/log/debug_log.h"
+
+#include <cerrno>
+#include <ctime>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <sys/time.h>
+#include <unistd.h>
+
+namespace gdi {
+
+std::FILE* gDebugFile = nullptr;
+const char* gDebugMarkerPath = "/tmp/gdidebug";
+const char* gDebugLogPath = "/tmp/CUPSDebug.log";
+
+namespace {
+
+// Opens the log for appending through no link: /tmp is everybody's, and the filter may run as root.
+std::FILE* openLogFile() {
+  const int descriptor = open(
+      gDebugLogPath, O_WRONLY | O_APPEND | O_CREAT | O_NOFOLLOW | O_CLOEXEC | O_NONBLOCK, 0666);
+  if (descriptor < 0) {
+    return nullptr;
+  }
+  struct stat status {};
+  if (fstat(descriptor, &status) != 0 || !S_ISREG(status.st_mode)) {
+    (void)close(descriptor);
+    errno = EINVAL;
+    return nullptr;
+  }
+  (void)fchmod(descriptor,
+               0666);  // somebody else's file keeps its mode, and is written all the same
+  std::FILE* file = fdopen(descriptor, "a");
+  if (file == nullptr) {
+    (void)close(descriptor);
+  }
+  return file;
+}
+
+// The month is written as localtime gives it, 0 for January: docs/quirks.md, "Log months from 0".
+void writePrefix(pid_t process) {
+  timeval now{};
+  if (gettimeofday(&now, nullptr) != 0) {
+    return;
+  }
+  const std::time_t seconds = std::time(nullptr);
+  std::tm local{};
+  if (localtime_r(&seconds, &local) == nullptr) {
+    return;
+  }
+  (void)std::fprintf(gDebugFile, "%2.2d/%2.2d/%2.2d %2.2d:%2.2d:%2.2d.%4.4d (%d) ", local.tm_mon,
+                     local.tm_mday, 1900 + local.tm_year, local.tm_hour, local.tm_min, local.tm_sec,
+                     static_cast<int>(now.tv_usec), static_cast<int>(process));
+}
+
+// Write errors are ignored: a log that cannot be written must not stop a job.
+void writeLine(const char* mark, const char* format, std::va_list arguments) {
+  writePrefix(getpid());
+  (void)std::fputs(mark, gDebugFile);
+  (void)std::vfprintf(gDebugFile, format, arguments);
+  (void)std::fputc('\n', gDebugFile);
+  (void)std::fflush(gDebugFile);
+}
+
+}  // namespace
+
+void DebugStart() {
+  struct stat marker {};
+  if (gDebugFile != nullptr || stat(gDebugMarkerPath, &marker) != 0) {
+    return;
+  }
+  gDebugFile = openLogFile();
+  if (gDebugFile == nullptr) {
+    std::perror("DEBUG: Unable to open debug log for writing, switching to stderr");
+    gDebugFile = stderr;
+    return;
+  }
+  (void)std::setvbuf(gDebugFile, nullptr, _IONBF, 0);  // a buffered log is still flushed each line
+}
+
+void DebugEnd() {
+  if (gDebugFile != nullptr && gDebugFile != stderr) {
+    (void)std::fclose(gDebugFile);
+    gDebugFile = nullptr;
+  }
+}
+
+void CPSDebugLog(const char* format, ...) {
+  const int savedErrno = errno;
+  DebugStart();
+  if (gDebugFile != nullptr) {
+    std::va_list arguments;
+    va_start(arguments, format);
+    writeLine("", format, arguments);
+    va_end(arguments);
+  }
+  errno = savedErrno;
+}
+
+void CPSDebugAssert_(const char* format, ...) {
+  const int savedErrno = errno;
+  DebugStart();
+  if (gDebugFile != nullptr) {
+    std::va_list arguments;
+    va_start(arguments, format);
+    writeLine("ASSERT: ", format, arguments);
+    va_end(arguments);
+  }
+  errno = savedErrno;
+}
+
+void CPSDebugLogHexDump(const std::uint8_t* bytes, std::uint32_t count) {
+  DebugStart();
+  if (gDebugFile == nullptr) {
+    return;
+  }
+  (void)std::fputs("    ", gDebugFile);
+  for (std::uint32_t i = 0; i < count; ++i) {
+    if (i > 0 && i % 8 == 0) {
+      (void)std::fputs("\n    ", gDebugFile);
+    }
+    (void)std::fprintf(gDebugFile, "0x%2.2x ", bytes[i]);
+  }
+  (void)std::fputc('\n', gDebugFile);
+  (void)std::fflush(gDebugFile);
+}
+
+}  // namespace gdi
