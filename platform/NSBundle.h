@@ -1,0 +1,52 @@
+// SPDX-FileCopyrightText: 2026 The rasterToGDI authors
+// SPDX-License-Identifier: Apache-2.0
+
+// The filter's read-only resources: one folder with an information dictionary, localised strings
+// and files.
+//
+// The main bundle is the folder `resources` beside the running program, else the data folder fixed
+// at build time. Each file is read at its first use. One thread.
+#pragma once
+
+#include <filesystem>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "platform/PropertyList.h"
+
+namespace gdi {
+
+class NSBundle {
+ public:
+  // The running program's bundle, found once a process.
+  static NSBundle& mainBundle();
+  // Makes the main bundle that of `resourcePath`; for tests.
+  static void setMainBundle(const std::filesystem::path& resourcePath);
+
+  explicit NSBundle(std::filesystem::path resourcePath);
+
+  [[nodiscard]] const std::filesystem::path& resourcePath() const { return resourcePath_; }
+
+  // The text of the information dictionary's entry (Info.plist); nothing when the file, the entry
+  // or a text for it is missing.
+  std::optional<std::string> objectForInfoDictionaryKey(std::string_view key);
+
+  // The file NAME.TYPE (NAME alone when the type is empty) in the bundle or in its subfolder
+  // `directory`; nothing when there is no such file or a name would leave the bundle.
+  [[nodiscard]] std::optional<std::filesystem::path> pathForResource(
+      std::string_view name, std::string_view type, std::string_view directory = "") const;
+
+  // The string of that key in <language>.lproj/<table>.strings, for the first of the preferred
+  // languages ("AppleLanguages") that has it, most specific name first; `value` when none has.
+  std::string localizedStringForKey(std::string_view key, std::string_view value,
+                                    std::string_view table = "Localizable");
+
+ private:
+  std::filesystem::path resourcePath_;
+  std::optional<PropertyListValue> infoDictionary_;
+  bool infoDictionaryRead_ = false;
+};
+
+}  // namespace gdi
