@@ -5,11 +5,11 @@
 // and files.
 //
 // The main bundle is the folder `resources` beside the running program, else the data folder fixed
-// at build time. Each file is read at its first use. One thread.
+// at build time. Each property list is read once, at its first use. One thread.
 #pragma once
 
 #include <filesystem>
-#include <memory>
+#include <map>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -22,7 +22,7 @@ class NSBundle {
  public:
   // The running program's bundle, found once a process.
   static NSBundle& mainBundle();
-  // Makes the main bundle that of `resourcePath`; for tests.
+  // Makes the main bundle that of `resourcePath`; for tests. The former main bundle is gone then.
   static void setMainBundle(const std::filesystem::path& resourcePath);
 
   explicit NSBundle(std::filesystem::path resourcePath);
@@ -34,7 +34,7 @@ class NSBundle {
   std::optional<std::string> objectForInfoDictionaryKey(std::string_view key);
 
   // The file NAME.TYPE (NAME alone when the type is empty) in the bundle or in its subfolder
-  // `directory`; nothing when there is no such file or a name would leave the bundle.
+  // `directory`; nothing when there is no such regular file or a name would leave the bundle.
   [[nodiscard]] std::optional<std::filesystem::path> pathForResource(
       std::string_view name, std::string_view type, std::string_view directory = "") const;
 
@@ -44,9 +44,12 @@ class NSBundle {
                                     std::string_view table = "Localizable");
 
  private:
+  // The property list in that file, read once; null when there is none.
+  const PropertyListValue* propertyListOfResource(std::string_view name, std::string_view type,
+                                                  std::string_view directory);
+
   std::filesystem::path resourcePath_;
-  std::optional<PropertyListValue> infoDictionary_;
-  bool infoDictionaryRead_ = false;
+  std::map<std::filesystem::path, std::optional<PropertyListValue>> propertyLists_;
 };
 
 }  // namespace gdi

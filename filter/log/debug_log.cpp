@@ -5,11 +5,14 @@
 
 #include <cerrno>
 #include <ctime>
+#include <string>
 
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <sys/time.h>
 #include <unistd.h>
+
+#include "filter/log/line_prefix.h"
 
 namespace gdi {
 
@@ -41,26 +44,26 @@ std::FILE* openLogFile() {
   return file;
 }
 
-// The month is written as localtime gives it, 0 for January: docs/quirks.md, "Log months from 0".
-void writePrefix(pid_t process) {
+// Nothing when the time cannot be told: the line then begins with its message.
+std::string prefixNow() {
+  const pid_t process = getpid();
   timeval now{};
   if (gettimeofday(&now, nullptr) != 0) {
-    return;
+    return "";
   }
   const std::time_t seconds = std::time(nullptr);
   std::tm local{};
   if (localtime_r(&seconds, &local) == nullptr) {
-    return;
+    return "";
   }
-  (void)std::fprintf(gDebugFile, "%2.2d/%2.2d/%2.2d %2.2d:%2.2d:%2.2d.%4.4d (%d) ", local.tm_mon,
-                     local.tm_mday, 1900 + local.tm_year, local.tm_hour, local.tm_min, local.tm_sec,
-                     static_cast<int>(now.tv_usec), static_cast<int>(process));
+  return logLinePrefix(local, static_cast<int>(now.tv_usec), static_cast<int>(process));
 }
 
 // Write errors are ignored: a log that cannot be written must not stop a job.
 void writeLine(const char* mark, const char* format, std::va_list arguments) {
-  writePrefix(getpid());
+  (void)std::fputs(prefixNow().c_str(), gDebugFile);
   (void)std::fputs(mark, gDebugFile);
+  // NOLINTNEXTLINE(clang-analyzer-valist.Uninitialized): both callers start it
   (void)std::vfprintf(gDebugFile, format, arguments);
   (void)std::fputc('\n', gDebugFile);
   (void)std::fflush(gDebugFile);

@@ -3,49 +3,33 @@
 
 #include "filter/log/debug_log.h"
 
+#include <algorithm>
 #include <array>
 #include <ctime>
 #include <filesystem>
 #include <fstream>
-#include <regex>
-#include <sstream>
 #include <string>
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "tests/support/DebugLogCapture.h"
+#include "tests/support/TemporaryFolder.h"
+
 namespace gdi {
 namespace {
 
-std::string contentsOf(const std::filesystem::path& path) {
-  std::ifstream file(path, std::ios::binary);
-  std::ostringstream text;
-  text << file.rdbuf();
-  return text.str();
-}
+using test::contentsOf;
 
-// Every test has a marker path and a log path of its own in a fresh folder.
+// Every test has a marker path and a log path of its own in a fresh folder; the log starts off.
 class DebugLog : public testing::Test {
  protected:
-  void SetUp() override {
-    std::string pattern = testing::TempDir() + "debug-log-XXXXXX";
-    folder_ = mkdtemp(pattern.data());
-    marker_ = folder_ / "marker";
-    log_ = folder_ / "log";
-    gDebugMarkerPath = marker_.c_str();
-    gDebugLogPath = log_.c_str();
-  }
-  void TearDown() override {
-    DebugEnd();
-    gDebugFile = nullptr;
-    std::filesystem::remove_all(folder_);
-  }
-  void makeMarker() const { std::ofstream(marker_).put('\n'); }
+  void makeMarker() { capture_.makeMarker(); }
 
-  std::filesystem::path folder_;
-  std::filesystem::path marker_;
-  std::filesystem::path log_;
+  test::DebugLogCapture capture_{test::DebugLogCapture::Marker::kAbsent};
+  const std::filesystem::path folder_ = capture_.folder();
+  const std::filesystem::path log_ = capture_.logPath();
 };
 
 TEST_F(DebugLog, WithoutAMarkerNothingIsWrittenAndNoFileIsMade) {
@@ -70,11 +54,11 @@ TEST_F(DebugLog, AMarkerMadeInTheMiddleOfAJobStartsTheLogFromTheNextLineOn) {
 TEST_F(DebugLog, ALineHasDateTimeMicrosecondsAndProcessIdAheadOfItsMessage) {
   makeMarker();
   CPSDebugLog("copies: %d", 1);
-  const std::regex line(R"(\d\d/\d\d/\d{4} \d\d:\d\d:\d\d\.\d{4,6} \((\d+)\) copies: 1\n)");
-  std::smatch match;
-  const std::string text = contentsOf(log_);
-  ASSERT_TRUE(std::regex_match(text, match, line)) << text;
-  EXPECT_EQ(match[1], std::to_string(getpid()));
+  std::string text = contentsOf(log_);
+  EXPECT_TRUE(text.ends_with(" (" + std::to_string(getpid()) + ") copies: 1\n")) << text;
+  std::ranges::replace_if(
+      text, [](char c) { return c >= '0' && c <= '9'; }, '9');
+  EXPECT_TRUE(text.starts_with("99/99/9999 99:99:99.9999")) << text;
 }
 
 TEST_F(DebugLog, TheMonthIsLoggedFromZero) {
