@@ -7,6 +7,7 @@
 // format as a story; this file is where its numbers live.
 #pragma once
 
+#include <array>
 #include <cstdint>
 
 namespace gdi::pc4sc4 {
@@ -58,6 +59,6 @@ inline constexpr unsigned kMinRecordWords = 8;
 // A band's byte length is a multiple of this.
 inline constexpr unsigned kBandAlignment = 16;
 // The trailer of a page's final band: one record with the clear-row command, one empty record.
-inline constexpr Word kTrailer[] = {0x0002, kClearRow, kClearRowSkip, 0x0000};
+inline constexpr std::array<Word, 4> kTrailer = {0x0002, kClearRow, kClearRowSkip, 0x0000};
 
 }  // namespace gdi::pc4sc4
