@@ -1,0 +1,97 @@
+// SPDX-FileCopyrightText: 2026 The rasterToGDI authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "tools/makescreens/growth.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+namespace gdi::makescreens {
+namespace {
+
+// 16 square cells of 4 x 4 pixels, their dots near pixel (0, 0) of each.
+constexpr Lattice kSquares{4, 1, 0, 0, 1, 870, 880};
+constexpr Tile kTile{16, 16};
+constexpr Lattice kTurned{14, 2, -3, 4, 1, 10, 13};
+const GrowthRule kRule{6.0, 2, 3};
+
+std::vector<std::uint32_t> grown(int steps, double softEdge, GrowthStart start = {}) {
+  return growthOrder(kSquares, kTile, steps, softEdge, kRule, start);
+}
+
+TEST(GrowthOrder, EveryPixelTakesEachOfItsUnitsOnce) {
+  for (const int steps : {1, 3, 15}) {
+    const std::vector<std::uint32_t> order = grown(steps, 0.35);
+    ASSERT_EQ(order.size(), 256U * static_cast<unsigned>(steps));
+    for (std::uint32_t pixel = 0; pixel < 256; ++pixel) {
+      EXPECT_EQ(std::count(order.begin(), order.end(), pixel), steps);
+    }
+  }
+}
+
+TEST(GrowthOrder, TheFirstDotIsAtTheStartAndTheSecondFarthestFromIt) {
+  const std::vector<std::uint32_t> order = grown(1, 0.0);
+  EXPECT_EQ(order[0], 0U);
+  EXPECT_EQ(order[2], 8U * 16 + 8) << "half a tile on, both ways";
+}
+
+TEST(GrowthOrder, AnotherStartMovesTheFirstDot) {
+  EXPECT_EQ(grown(1, 0.0, {0.5, 0.25})[0], 4U * 16 + 8);
+}
+
+TEST(GrowthOrder, ABegunDotIsGivenItsLeastPixelsBeforeAnotherIsBegun) {
+  const std::vector<std::uint32_t> cells = cellNumbers(kSquares, kTile, CellsAround::kDots);
+  for (const int steps : {1, 3, 15}) {
+    const std::vector<std::uint32_t> order = grown(steps, 0.6);
+    const std::size_t dot = 2 * static_cast<std::size_t>(steps);
+    for (std::size_t unit = 0; unit < 8 * dot; ++unit) {
+      EXPECT_EQ(cells[order[unit]], cells[order[unit / dot * dot]]);
+    }
+    EXPECT_NE(cells[order[0]], cells[order[dot]]);
+  }
+}
+
+TEST(GrowthOrder, ABegunDotFillsOnePixelAfterTheOther) {
+  const std::vector<std::uint32_t> order = grown(15, 0.6);
+  for (std::size_t unit = 1; unit < 15; ++unit) {
+    EXPECT_EQ(order[unit], order[0]);
+  }
+  for (std::size_t unit = 16; unit < 30; ++unit) {
+    EXPECT_EQ(order[unit], order[15]);
+  }
+  const std::uint32_t step = std::max(order[0], order[15]) - std::min(order[0], order[15]);
+  EXPECT_TRUE(step == 1 || step == 15 || step == 16 || step == 240) << "side by side";
+}
+
+TEST(GrowthOrder, SeenFromSolidABegunHoleIsGivenItsLeastPixels) {
+  const std::vector<std::uint32_t> cells = cellNumbers(kSquares, kTile, CellsAround::kHoles);
+  std::vector<std::uint32_t> order = grown(1, 0.0);
+  std::reverse(order.begin(), order.end());
+  for (std::size_t unit = 0; unit < 24; ++unit) {
+    EXPECT_EQ(cells[order[unit]], cells[order[unit / 3 * 3]]);
+  }
+  EXPECT_NE(cells[order[0]], cells[order[3]]);
+}
+
+TEST(GrowthOrder, DotsGrowEvenly) {
+  const Tile tile = tileWithCells(kTurned, 28);
+  const std::vector<std::uint32_t> cells = cellNumbers(kTurned, tile, CellsAround::kDots);
+  const std::vector<std::uint32_t> order = growthOrder(kTurned, tile, 1, 0.0, kRule, {});
+  std::vector<int> sizes(28, 0);
+  for (std::size_t unit = 0; unit < order.size(); ++unit) {
+    ++sizes[cells[order[unit]]];
+    const auto [least, most] = std::minmax_element(sizes.begin(), sizes.end());
+    // Two pixels is a dot just completed, three a hole about to be.
+    EXPECT_LE(*most - *least, 3) << "after " << unit + 1 << " units";
+  }
+}
+
+TEST(GrowthOrder, IsTheSameEachTime) {
+  EXPECT_EQ(grown(3, 0.35), grown(3, 0.35));
+}
+
+}  // namespace
+}  // namespace gdi::makescreens

@@ -1,0 +1,304 @@
+// SPDX-FileCopyrightText: 2026 The rasterToGDI authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "tools/makescreens/parameters.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <map>
+#include <set>
+#include <span>
+#include <system_error>
+#include <utility>
+
+#include "tools/makescreens/parameter_text.h"
+#include "tools/makescreens/tone.h"
+
+namespace gdi::makescreens {
+namespace {
+
+constexpr int kLargestPeriod = 64;
+constexpr int kMostPixels = 4096;
+
+using Fields = std::span<const std::string_view>;
+
+// Reads one text. Every member answers false and sets `problem_` when a line is wrong.
+class Reader {
+ public:
+  bool readLine(int line, Fields fields) {
+    line_ = line;
+    struct Form {
+      std::string_view keyword;
+      std::string_view fields;
+      bool (Reader::*read)(Fields);
+    };
+    static constexpr std::array<Form, 8> kForms{{
+        {"quality", "NAME DEPTH CELLS", &Reader::readQuality},
+        {"growth", "EVENNESS LEAST-DOT LEAST-HOLE", &Reader::readGrowth},
+        {"start", "PLANE X Y", &Reader::readStart},
+        {"variation", "SPOT THRESHOLD", &Reader::readVariation},
+        {"class", "NAME SPOT THRESHOLD SOFTNESS SPREAD SOLID GAIN", &Reader::readClass},
+        {"paper", "NAME CLASS", &Reader::readPaper},
+        {"phase", "NAME U V", &Reader::readPhase},
+        {"screen", "CLASS QUALITY PLANE N A B C D PHASE SOFT-EDGE", &Reader::readScreen},
+    }};
+    for (const Form& form : kForms) {
+      if (fields.front() != form.keyword) {
+        continue;
+      }
+      const auto blanks = std::count(form.fields.begin(), form.fields.end(), ' ');
+      if (fields.size() != static_cast<std::size_t>(blanks) + 2) {
+        return fail("expected: " + std::string(form.keyword) + ' ' + std::string(form.fields));
+      }
+      return (this->*form.read)(fields.subspan(1));
+    }
+    return fail("unknown keyword " + quoted(fields.front()));
+  }
+
+  bool finish(int lastLine) {
+    line_ = lastLine;
+    if (parameters_.qualities.empty()) {
+      return fail("no quality is given");
+    }
+    if (parameters_.classes.empty()) {
+      return fail("no class is given");
+    }
+    if (parameters_.papers.empty()) {
+      return fail("no paper is given");
+    }
+    for (std::size_t c = 0; c < parameters_.classes.size(); ++c) {
+      for (std::size_t q = 0; q < parameters_.qualities.size(); ++q) {
+        for (std::size_t p = 0; p < kPlanes.size(); ++p) {
+          const auto screen = screens_.find({c, q, p});
+          if (screen == screens_.end()) {
+            line_ = classLines_[c];
+            return fail("class " + quoted(parameters_.classes[c].name) + " has no screen for " +
+                        parameters_.qualities[q].name + ' ' + std::string(kPlanes.at(p)));
+          }
+          parameters_.screens.push_back(screen->second);
+        }
+      }
+    }
+    return true;
+  }
+
+  [[nodiscard]] int line() const { return line_; }
+  [[nodiscard]] const std::string& problem() const { return problem_; }
+  Parameters takeParameters() { return std::move(parameters_); }
+
+ private:
+  bool fail(std::string problem) {
+    problem_ = std::move(problem);
+    return false;
+  }
+
+  // Names become keys and file names.
+  bool readNewName(std::string_view kind, std::string_view field, std::string& name) {
+    const auto isPlain = [](char c) {
+      return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9');
+    };
+    if (!std::all_of(field.begin(), field.end(), isPlain)) {
+      return fail(quoted(field) + " is no name of letters and digits");
+    }
+    name = field;
+    if (!names_.insert(std::string(kind) + ' ' + name).second) {
+      return fail(std::string(kind) + ' ' + quoted(field) + " is given twice");
+    }
+    return true;
+  }
+
+  template <typename List>
+  bool readReference(std::string_view kind, const List& list, std::string_view field,
+                     std::size_t& index) {
+    for (index = 0; index < list.size(); ++index) {
+      if (list[index].name == field) {
+        return true;
+      }
+    }
+    return fail("unknown " + std::string(kind) + ' ' + quoted(field));
+  }
+
+  bool readPlane(std::string_view field, std::size_t& plane) {
+    plane = static_cast<std::size_t>(std::find(kPlanes.begin(), kPlanes.end(), field) -
+                                     kPlanes.begin());
+    return plane < kPlanes.size() || fail("unknown plane " + quoted(field));
+  }
+
+  template <typename Number>
+  bool readNumber(std::string_view what, std::string_view field, Number least, Number most,
+                  Number& number) {
+    const char* const end = field.data() + field.size();
+    const auto [stop, error] = std::from_chars(field.data(), end, number);
+    if (error == std::errc() && stop == end && number >= least && number <= most) {
+      return true;
+    }
+    return fail(std::string(what) + ' ' + quoted(field) + " is no number of " + decimal(least) +
+                " to " + decimal(most));
+  }
+
+  bool readQuality(Fields fields) {
+    Quality quality;
+    if (!readNewName("quality", fields[0], quality.name) ||
+        !readNumber("depth", fields[1], 1, 8, quality.depth) ||
+        !readNumber("cell count", fields[2], 1, 1024, quality.leastCells)) {
+      return false;
+    }
+    if ((quality.depth & (quality.depth - 1)) != 0) {
+      return fail("depth is none of 1, 2, 4 and 8");
+    }
+    parameters_.qualities.push_back(std::move(quality));
+    return true;
+  }
+
+  bool readGrowth(Fields fields) {
+    GrowthRule& growth = parameters_.growth;
+    return readNumber("evenness", fields[0], 0.0, 100.0, growth.evenness) &&
+           readNumber("least dot", fields[1], 1, 16, growth.leastDot) &&
+           readNumber("least hole", fields[2], 1, 16, growth.leastHole);
+  }
+
+  bool readStart(Fields fields) {
+    std::size_t plane = 0;
+    if (!readPlane(fields[0], plane)) {
+      return false;
+    }
+    GrowthStart& start = parameters_.starts.at(plane);
+    return readNumber("start", fields[1], 0.0, 0.999, start.x) &&
+           readNumber("start", fields[2], 0.0, 0.999, start.y);
+  }
+
+  bool readVariation(Fields fields) {
+    Variation& variation = parameters_.variation;
+    return readNumber("variation", fields[0], 0.0, 0.09, variation.spot) &&
+           readNumber("variation", fields[1], 0.0, 0.04, variation.threshold);
+  }
+
+  bool readClass(Fields fields) {
+    PaperClass paperClass;
+    PaperModel& model = paperClass.model;
+    if (!readNewName("class", fields[0], paperClass.name) ||
+        !readNumber("spot", fields[1], 0.1, 1.0, model.spot) ||
+        !readNumber("threshold", fields[2], 0.05, 0.95, model.threshold) ||
+        !readNumber("softness", fields[3], 0.005, 0.5, model.softness) ||
+        !readNumber("spread", fields[4], 0.1, 5.0, model.spread) ||
+        !readNumber("solid", fields[5], 0.0, 0.5, model.solid) ||
+        !readNumber("gain", fields[6], 0.0, 0.25, paperClass.gain)) {
+      return false;
+    }
+    classLines_.push_back(line_);
+    parameters_.classes.push_back(std::move(paperClass));
+    return true;
+  }
+
+  bool readPaper(Fields fields) {
+    Paper paper;
+    if (!readNewName("paper", fields[0], paper.name) ||
+        !readReference("class", parameters_.classes, fields[1], paper.paperClass)) {
+      return false;
+    }
+    parameters_.papers.push_back(std::move(paper));
+    return true;
+  }
+
+  bool readPhase(Fields fields) {
+    Phase phase;
+    double u = 0.0;
+    double v = 0.0;
+    if (!readNewName("phase", fields[0], phase.name) ||
+        !readNumber("phase", fields[1], 0.0, 0.999, u) ||
+        !readNumber("phase", fields[2], 0.0, 0.999, v)) {
+      return false;
+    }
+    phase.u = static_cast<int>(std::lround(u * 1000.0));
+    phase.v = static_cast<int>(std::lround(v * 1000.0));
+    phases_.push_back(std::move(phase));
+    return true;
+  }
+
+  bool readScreen(Fields fields) {
+    std::size_t paperClass = 0;
+    std::size_t quality = 0;
+    std::size_t plane = 0;
+    std::size_t phase = 0;
+    ScreenParameters screen;
+    Lattice& lattice = screen.lattice;
+    if (!readReference("class", parameters_.classes, fields[0], paperClass) ||
+        !readReference("quality", parameters_.qualities, fields[1], quality) ||
+        !readPlane(fields[2], plane) ||
+        !readNumber("period", fields[3], 1, kLargestPeriod, lattice.n) ||
+        !readNumber("A", fields[4], -kLargestPeriod, kLargestPeriod, lattice.a) ||
+        !readNumber("B", fields[5], -kLargestPeriod, kLargestPeriod, lattice.b) ||
+        !readNumber("C", fields[6], -kLargestPeriod, kLargestPeriod, lattice.c) ||
+        !readNumber("D", fields[7], -kLargestPeriod, kLargestPeriod, lattice.d) ||
+        !readReference("phase", phases_, fields[8], phase) ||
+        !readNumber("soft edge", fields[9], 0.0, 1.0, screen.softEdge)) {
+      return false;
+    }
+    lattice.phaseU = phases_[phase].u;
+    lattice.phaseV = phases_[phase].v;
+    return checkTile(lattice, parameters_.qualities[quality]) &&
+           (screens_.try_emplace({paperClass, quality, plane}, screen).second ||
+            fail("this class, quality and plane has a screen already"));
+  }
+
+  // 255 levels need as many units above blank, and a file should stay small.
+  bool checkTile(const Lattice& lattice, const Quality& quality) {
+    if (lattice.determinant() == 0) {
+      return fail("A D - B C is 0: these are no two directions");
+    }
+    if (lattice.cellArea() < 4.0) {
+      return fail("a cell has less than 4 pixels");
+    }
+    const Tile smallest = smallestTile(lattice);
+    const double doublings = static_cast<double>(quality.leastCells) / cellsIn(lattice, smallest);
+    if (smallest.pixels() > kMostPixels || smallest.pixels() * doublings > kMostPixels) {
+      return fail("the tile has more than " + std::to_string(kMostPixels) + " pixels");
+    }
+    const Tile tile = tileWithCells(lattice, quality.leastCells);
+    const int units = tile.pixels() * ((1 << quality.depth) - 1);
+    if (tile.pixels() > kMostPixels) {
+      return fail("the tile has more than " + std::to_string(kMostPixels) + " pixels");
+    }
+    return units >= kLevels - 1 || fail("the tile has only " + std::to_string(units) +
+                                        " units of output, fewer than the 255 levels");
+  }
+
+  struct Phase {
+    std::string name;
+    int u = 0;
+    int v = 0;
+  };
+  using Place = std::array<std::size_t, 3>;  // class, quality, plane
+
+  int line_ = 0;
+  std::string problem_;
+  std::set<std::string> names_;
+  std::vector<int> classLines_;
+  std::vector<Phase> phases_;
+  std::map<Place, ScreenParameters> screens_;
+  Parameters parameters_;
+};
+
+}  // namespace
+
+std::optional<Parameters> parseParameters(std::string_view text, std::string_view name,
+                                          std::string& error) {
+  Reader reader;
+  bool good = true;
+  int line = 0;
+  while (good && !text.empty()) {
+    const std::size_t end = std::min(text.find('\n'), text.size());
+    const std::vector<std::string_view> fields = fieldsOf(text.substr(0, end));
+    text.remove_prefix(std::min(end + 1, text.size()));
+    ++line;
+    good = fields.empty() || reader.readLine(line, fields);
+  }
+  if (good && reader.finish(std::max(line, 1))) {
+    return reader.takeParameters();
+  }
+  error = std::string(name) + ':' + std::to_string(reader.line()) + ": " + reader.problem();
+  return std::nullopt;
+}
+
+}  // namespace gdi::makescreens

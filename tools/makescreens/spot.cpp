@@ -1,0 +1,82 @@
+// SPDX-FileCopyrightText: 2026 The rasterToGDI authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "tools/makescreens/spot.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <numbers>
+#include <numeric>
+
+namespace gdi::makescreens {
+namespace {
+
+constexpr int kPointsAcross = 8;
+constexpr std::size_t kPoints = std::size_t{kPointsAcross} * kPointsAcross;
+
+// cos(2 pi turn / scale) in 2^-40. Angles that mirror each other give the same number, so that
+// pixels alike by symmetry stay exactly alike. Requires: scale divisible by 4.
+std::int64_t cosineOfTurn(std::int64_t turn, std::int64_t scale) {
+  std::int64_t angle = turn % scale;
+  angle = angle < 0 ? angle + scale : angle;
+  angle = std::min(angle, scale - angle);
+  const bool negative = angle > scale / 4;
+  angle = negative ? scale / 2 - angle : angle;
+  const double radians =
+      2.0 * std::numbers::pi * static_cast<double>(angle) / static_cast<double>(scale);
+  const auto cosine = static_cast<std::int64_t>(std::llround(std::ldexp(std::cos(radians), 40)));
+  return negative ? -cosine : cosine;
+}
+
+// The spot function at the 8 x 8 points of each pixel: high inside dots, low inside holes.
+std::vector<std::int64_t> spotValues(const Lattice& lattice, const Tile& tile) {
+  const std::int64_t scale = cellScale(lattice);
+  std::vector<std::int64_t> values;
+  values.reserve(static_cast<std::size_t>(tile.pixels()) * kPoints);
+  for (int y = 0; y < tile.height; ++y) {
+    for (int x = 0; x < tile.width; ++x) {
+      for (int point = 0; point < kPointsAcross * kPointsAcross; ++point) {
+        const CellPoint at = cellPoint(lattice, 16 * x + 2 * (point % kPointsAcross) + 1,
+                                       16 * y + 2 * (point / kPointsAcross) + 1);
+        values.push_back(cosineOfTurn(at.u, scale) + cosineOfTurn(at.v, scale));
+      }
+    }
+  }
+  return values;
+}
+
+}  // namespace
+
+std::vector<std::int64_t> spotShares(const Lattice& lattice, const Tile& tile, int steps,
+                                     double softEdge) {
+  const std::vector<std::int64_t> values = spotValues(lattice, tile);
+  std::vector<std::int64_t> sorted = values;
+  std::sort(sorted.begin(), sorted.end());
+  // The share of points higher than this one; points alike take the middle of their places.
+  const auto shareOf = [&sorted](std::int64_t value) {
+    const auto [low, high] = std::equal_range(sorted.begin(), sorted.end(), value);
+    const std::int64_t twice = (sorted.end() - high) + (sorted.end() - low);
+    return twice * (kWholeCell / 2) / static_cast<std::int64_t>(sorted.size());
+  };
+
+  const auto soft = static_cast<std::int64_t>(std::lround(softEdge * 1000.0));
+  std::vector<std::int64_t> shares;
+  std::array<std::int64_t, kPoints> points{};
+  for (std::size_t first = 0; first < values.size(); first += kPoints) {
+    for (std::size_t i = 0; i < kPoints; ++i) {
+      points.at(i) = shareOf(values[first + i]);
+    }
+    std::sort(points.begin(), points.end());
+    const std::int64_t mean = std::accumulate(points.begin(), points.end(), std::int64_t{0}) /
+                              static_cast<std::int64_t>(kPoints);
+    for (int step = 0; step < steps; ++step) {
+      const std::size_t middle =
+          static_cast<std::size_t>(2 * step + 1) * kPoints / (2 * static_cast<std::size_t>(steps));
+      shares.push_back(mean + (points.at(middle) - mean) * soft / 1000);
+    }
+  }
+  return shares;
+}
+
+}  // namespace gdi::makescreens

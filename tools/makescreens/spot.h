@@ -1,0 +1,26 @@
+// SPDX-FileCopyrightText: 2026 The rasterToGDI authors
+// SPDX-License-Identifier: Apache-2.0
+
+// When each pixel of a tile would darken if every dot of the screen grew alike.
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+#include "tools/makescreens/lattice.h"
+
+namespace gdi::makescreens {
+
+// Shares of a cell are counted in 1 / kWholeCell.
+constexpr std::int64_t kWholeCell = std::int64_t{1} << 24;
+
+// For each pixel of the tile, row by row, `steps` shares, never falling: how much of its cell is
+// darkened when the pixel takes its first, second, ... unit of output.
+//
+// A pixel's units share the mean over the pixel, moved by `softEdge` (0 to 1) towards the shares
+// of 8 x 8 points in it: 0 lets its units come together, 1 spreads them as the dot's edge sweeps
+// over the pixel. Requires: steps >= 1.
+std::vector<std::int64_t> spotShares(const Lattice& lattice, const Tile& tile, int steps,
+                                     double softEdge);
+
+}  // namespace gdi::makescreens
