@@ -1,0 +1,158 @@
+// SPDX-FileCopyrightText: 2026 The rasterToGDI authors
+// SPDX-License-Identifier: Apache-2.0
+
+// The way to standard output when it cannot be written.
+
+#include <array>
+#include <chrono>
+#include <csignal>
+#include <thread>
+
+#include <fcntl.h>
+#include <pthread.h>
+#include <unistd.h>
+
+#include "filter/signals.h"
+#include "tests/printer/FilterJob.h"
+
+namespace gdi::test {
+namespace {
+
+extern "C" void cancelJob(int /*signal*/) {
+  gSigTerm = 1;
+}
+
+std::size_t countOf(const std::string& text, const std::string& part) {
+  std::size_t count = 0;
+  for (std::size_t at = text.find(part); at != std::string::npos; at = text.find(part, at + 1)) {
+    ++count;
+  }
+  return count;
+}
+
+// Cancels the job once the debug log holds the report that many times.
+class CancelAfterReports {
+ public:
+  CancelAfterReports(const DebugLogCapture& log, std::size_t reports,
+                     const std::string& report = "ERROR: recoverable: ")
+      : former_(std::signal(SIGALRM, cancelJob)),
+        watcher_([&log, reports, report, job = pthread_self()](const std::stop_token& stop) {
+          while (!stop.stop_requested() && countOf(log.text(), report) < reports) {
+            std::this_thread::sleep_for(std::chrono::milliseconds(2));
+          }
+          (void)pthread_kill(job, SIGALRM);
+        }) {}
+  ~CancelAfterReports() {
+    watcher_.request_stop();
+    watcher_.join();
+    (void)std::signal(SIGALRM, former_);
+  }
+  CancelAfterReports(const CancelAfterReports&) = delete;
+  CancelAfterReports& operator=(const CancelAfterReports&) = delete;
+
+ private:
+  void (*former_)(int);
+  std::jthread watcher_;
+};
+
+int fullDevice() {
+  return open("/dev/full", O_WRONLY | O_CLOEXEC);
+}
+
+// The writing end of a pipe that nobody reads.
+int brokenPipe() {
+  std::array<int, 2> ends{};
+  EXPECT_EQ(pipe2(ends.data(), O_CLOEXEC), 0);
+  (void)close(ends[0]);
+  return ends[1];
+}
+
+const std::string kReport = "ERROR: recoverable: Unable to communicate with printer";
+
+class FailedWrite : public FilterJob {
+ protected:
+  // Noise that fills any buffer of the output within a band.
+  static FakePage noise(std::uint32_t channels) {
+    return {pageHeader(4000, 300, channels), [](std::uint32_t line, auto bytes) {
+              std::uint32_t state = line * 2654435761U + 1;
+              for (std::uint8_t& byte : bytes) {
+                state = state * 1664525U + 1013904223U;
+                byte = static_cast<std::uint8_t>(state >> 24);
+              }
+            }};
+  }
+};
+
+TEST_F(FailedWrite, IsReportedEveryTenthOfASecondUntilTheJobIsCancelled) {
+  JobFilter filter("", {noise(1)});
+  const CancelAfterReports cancel(log_, 4);
+  const auto start = std::chrono::steady_clock::now();
+  EXPECT_FALSE(runInto(fullDevice(), filter));
+  EXPECT_GE(std::chrono::steady_clock::now() - start, std::chrono::milliseconds(300));
+  EXPECT_GE(countOf(errors_, kReport + "\n"), 4U) << errors_;
+  EXPECT_EQ(log_.count(kReport), countOf(errors_, kReport + "\n"));
+  EXPECT_GE(log_.count("ASSERT: GDIFilter sendData: failed to write data: No space left on device"),
+            1U);
+}
+
+TEST_F(FailedWrite, IsFollowedByNoOtherRecordOfThePage) {
+  JobFilter filter("", {noise(4)});
+  const CancelAfterReports cancel(log_, 1);
+  EXPECT_FALSE(runInto(fullDevice(), filter));
+  EXPECT_EQ(bandsWritten(), 1U);
+  EXPECT_EQ(log_.count("GDIFilter sendRaster: wrote K band 0"), 1U);
+  EXPECT_EQ(log_.count("ASSERT: sendRaster failed"), 1U);
+}
+
+TEST_F(FailedWrite, IntoABrokenPipeIsReportedUntilTheJobIsCancelled) {
+  installSignalHandlers();
+  JobFilter filter("", {noise(1)});
+  const CancelAfterReports cancel(log_, 2);
+  EXPECT_FALSE(runInto(brokenPipe(), filter));
+  EXPECT_EQ(gSigPipe, 1);
+  EXPECT_GE(countOf(errors_, kReport + "\n"), 2U) << errors_;
+  EXPECT_GE(log_.count("ASSERT: GDIFilter sendData: failed to write data: Broken pipe"), 1U);
+}
+
+TEST_F(FailedWrite, OfAShortJobShowsAtTheEndAtTheLatest) {
+  JobFilter filter("", {{pageHeader(8, 1, 1), {}}});
+  const CancelAfterReports cancel(log_, 1);
+  EXPECT_FALSE(runInto(fullDevice(), filter));
+  EXPECT_GE(countOf(errors_, kReport + "\n"), 1U) << errors_;
+  EXPECT_EQ(logLines({"GDIFilter endJob: sending JIDG", "ASSERT: GDIFilter sendData"}),
+            (std::vector<std::string>{
+                "GDIFilter endJob: sending JIDG",
+                "ASSERT: GDIFilter sendData: failed to write data: No space left on device"}));
+}
+
+TEST_F(FailedWrite, OfThePrologueFailsTheJobBeforeItsFirstPage) {
+  setInformation({{"CUPSFileHeader", std::string(100000, 'P')}});
+  JobFilter filter("", {{pageHeader(8, 1, 1), {}}});
+  const CancelAfterReports cancel(log_, 1);
+  EXPECT_FALSE(runInto(fullDevice(), filter));
+  EXPECT_EQ(log_.count("GDIFilter startJob: exiting - result: 0"), 1U);
+  EXPECT_TRUE(filter.turns.empty());
+  EXPECT_EQ(log_.count("GDIFilter endJob:"), 1U);
+}
+
+TEST_F(FailedWrite, OfACancelledJobIsNotReportedToTheSpooler) {
+  JobFilter filter("", {noise(1)});
+  filter.beforePage = [](std::uint32_t /*page*/) {
+    gSigTerm = 1;
+    return true;
+  };
+  EXPECT_FALSE(runInto(fullDevice(), filter));
+  EXPECT_EQ(countOf(errors_, kReport), 0U) << errors_;
+}
+
+TEST_F(FailedWrite, IsReportedInTheLanguageOfTheSpooler) {
+  const EnvironmentVariable language("LANG", "de_DE.UTF-8");
+  bundle_->setStrings("de", {{"DriverCommError", "Keine Verbindung zum Drucker"}});
+  JobFilter filter("", {{pageHeader(8, 1, 1), {}}});
+  const CancelAfterReports cancel(log_, 1);
+  EXPECT_FALSE(runInto(fullDevice(), filter));
+  EXPECT_GE(countOf(errors_, "ERROR: recoverable: Keine Verbindung zum Drucker\n"), 1U) << errors_;
+}
+
+}  // namespace
+}  // namespace gdi::test
