@@ -1,0 +1,57 @@
+// SPDX-FileCopyrightText: 2026 The rasterToGDI authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "reader/StoredPlane.h"
+
+#include <utility>
+
+#include "codec/pc4sc4.h"
+#include "codec/pc4sc4_format.h"
+
+namespace gdi::reader {
+
+void StoredPlane::append(std::uint32_t rows, std::vector<std::uint8_t> data) {
+  data.shrink_to_fit();
+  bands_.push_back({rows_, rows, std::move(data)});
+  rows_ += rows;
+}
+
+std::vector<std::uint8_t> StoredPlane::rowsOfBand(std::size_t band) const {
+  const Band& stored = bands_[band];
+  DecodedBand decoded = decodeBand(stored.data, stored.rows, rowBytes_);
+  if (!decoded.complete) {
+    decoded.rows.assign(stored.rows * rowBytes_, 0);
+  }
+  return std::move(decoded.rows);
+}
+
+std::span<const std::uint8_t> RowCursor::next() {
+  if (position_ == rows_.size()) {
+    if (nextBand_ == plane_.bands().size()) {
+      return {};
+    }
+    rows_ = plane_.rowsOfBand(nextBand_++);
+    position_ = 0;
+  }
+  const auto row = std::span<const std::uint8_t>(rows_).subspan(position_, plane_.rowBytes());
+  position_ += row.size();
+  return row;
+}
+
+// A row record is at least one stream word.
+DecodedBand decodeBand(std::span<const std::uint8_t> data, std::uint32_t rows,
+                       std::size_t rowBytes) {
+  DecodedBand band;
+  if (rows == 0 || rows > data.size() / sizeof(pc4sc4::Word)) {
+    return band;
+  }
+  band.rows.resize(rows * rowBytes);
+  std::vector<std::uint8_t> referenceRow(rowBytes);
+  const auto words = qbx_DeCompress_PC4SC4(data, band.rows, static_cast<std::uint32_t>(rowBytes),
+                                           static_cast<std::int32_t>(rows), referenceRow);
+  band.complete = words.has_value();
+  band.consumed = words.value_or(0) * sizeof(pc4sc4::Word);
+  return band;
+}
+
+}  // namespace gdi::reader

@@ -1,0 +1,73 @@
+// SPDX-FileCopyrightText: 2026 The rasterToGDI authors
+// SPDX-License-Identifier: Apache-2.0
+
+// One plane of one page, kept as its compressed bands; rows are decoded when somebody looks.
+//
+// What a plane occupies is thus bounded by the bytes that really arrived, not by the rows that
+// records claim: a band of 256 blank rows of 8 kB is a few hundred bytes long.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <span>
+#include <vector>
+
+namespace gdi::reader {
+
+class StoredPlane {
+ public:
+  struct Band {
+    std::uint32_t firstRow = 0;
+    std::uint32_t rows = 0;          // 1 to kBandHeight
+    std::vector<std::uint8_t> data;  // empty for a band that is lost: its rows are blank
+  };
+
+  StoredPlane() = default;
+  // rowBytes: a multiple of 16.
+  explicit StoredPlane(std::size_t rowBytes) : rowBytes_(rowBytes) {}
+
+  // Adds the next band, top to bottom.
+  void append(std::uint32_t rows, std::vector<std::uint8_t> data);
+
+  [[nodiscard]] std::size_t rowBytes() const { return rowBytes_; }
+  [[nodiscard]] std::uint32_t rows() const { return rows_; }
+  [[nodiscard]] const std::vector<Band>& bands() const { return bands_; }
+
+  // The rows of that band one after the other, rowBytes() each; a lost band's are zero.
+  // requires: band < bands().size()
+  [[nodiscard]] std::vector<std::uint8_t> rowsOfBand(std::size_t band) const;
+
+ private:
+  std::size_t rowBytes_ = 0;
+  std::uint32_t rows_ = 0;
+  std::vector<Band> bands_;
+};
+
+// The rows of one plane from top to bottom, one band decoded at a time.
+class RowCursor {
+ public:
+  // `plane` must outlive the cursor.
+  explicit RowCursor(const StoredPlane& plane) : plane_(plane) {}
+
+  // The next row, rowBytes() bytes, valid until the next call; empty below the last row.
+  std::span<const std::uint8_t> next();
+
+ private:
+  const StoredPlane& plane_;
+  std::size_t nextBand_ = 0;
+  std::size_t position_ = 0;  // bytes of rows_ given out
+  std::vector<std::uint8_t> rows_;
+};
+
+// What the decoder makes of one band.
+struct DecodedBand {
+  bool complete = false;           // every row record was decoded
+  std::size_t consumed = 0;        // bytes, when complete
+  std::vector<std::uint8_t> rows;  // rows x rowBytes bytes, when complete
+};
+
+// Decodes a band. Nothing is allocated for more rows than the data can hold.
+DecodedBand decodeBand(std::span<const std::uint8_t> data, std::uint32_t rows,
+                       std::size_t rowBytes);
+
+}  // namespace gdi::reader

@@ -1,0 +1,53 @@
+// SPDX-FileCopyrightText: 2026 The rasterToGDI authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "reader/band_order.h"
+
+#include <map>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+namespace gdi::reader {
+namespace {
+
+// The whole page's order as text, "K0 K1 ... C0 ...", by asking again and again.
+std::vector<std::string> orderOf(std::uint32_t bands) {
+  std::vector<std::string> order;
+  BandCounts arrived{};
+  while (const std::optional<Ink> ink = nextInWriterOrder(arrived, bands)) {
+    order.push_back("CMYK"[indexOf(*ink)] + std::to_string(arrived[indexOf(*ink)]++));
+  }
+  return order;
+}
+
+TEST(BandOrder, AShortPageSendsItsPlanesOneAfterTheOther) {
+  const std::vector<std::string> expected{"K0", "K1", "C0", "C1", "M0", "M1", "Y0", "Y1"};
+  EXPECT_EQ(orderOf(2), expected);
+}
+
+TEST(BandOrder, CyanTrailsBlackBySixBands) {
+  const std::vector<std::string> order = orderOf(28);
+  ASSERT_EQ(order.size(), 112U);
+  const std::vector<std::string> start(order.begin(), order.begin() + 10);
+  EXPECT_EQ(start,
+            (std::vector<std::string>{"K0", "K1", "K2", "K3", "K4", "K5", "K6", "C0", "K7", "C1"}));
+  EXPECT_EQ(order.back(), "Y27");
+}
+
+TEST(BandOrder, StepEighteenSendsABandOfEveryPlane) {
+  const std::vector<std::string> order = orderOf(28);
+  const auto black = std::find(order.begin(), order.end(), "K18");
+  ASSERT_GE(order.end() - black, 4);
+  EXPECT_EQ(std::vector<std::string>(black, black + 4),
+            (std::vector<std::string>{"K18", "C12", "M6", "Y0"}));
+}
+
+TEST(BandOrder, AnotherOrderTellsNothing) {
+  EXPECT_EQ(nextInWriterOrder({1, 0, 0, 0}, 28), std::nullopt);
+  EXPECT_EQ(nextInWriterOrder({0, 0, 0, 0}, 0), std::nullopt);
+}
+
+}  // namespace
+}  // namespace gdi::reader

@@ -1,0 +1,82 @@
+// SPDX-FileCopyrightText: 2026 The rasterToGDI authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "reader/Page.h"
+
+#include <gtest/gtest.h>
+
+#include "tests/reader/job_builder.h"
+
+namespace gdi::reader {
+namespace {
+
+Page pageOf(std::uint16_t rowBits, unsigned bitsPerPixel, std::uint32_t widthMicrometres) {
+  Page page;
+  page.record.rowBits = rowBits;
+  page.record.widthMicrometres = widthMicrometres;
+  page.bitsPerPixel = bitsPerPixel;
+  return page;
+}
+
+TEST(Page, RowsArePaddedByAtLeast32BitsTo128) {
+  EXPECT_EQ(paddedRowBits(4961, 1), 5120U);
+  EXPECT_EQ(paddedRowBits(4961, 4), 19968U);
+  EXPECT_EQ(paddedRowBits(96, 1), 128U);
+  EXPECT_EQ(paddedRowBits(97, 1), 256U);
+}
+
+TEST(Page, ItsWidthIsThatOfThePaper) {
+  EXPECT_EQ(pageOf(4992, 1, 209902).widthPixels(), 4958U);   // A4
+  EXPECT_EQ(pageOf(10240, 2, 215900).widthPixels(), 5100U);  // Letter
+}
+
+TEST(Page, ItsWidthIsNoLessThanItsRowsPaddingAllows) {
+  // A row of 4960 pixels would be 4992 bits long, so one of 5120 bits holds 4961 at least.
+  EXPECT_EQ(pageOf(5120, 1, 209902).widthPixels(), 4961U);
+  EXPECT_EQ(pageOf(19968, 4, 209902).widthPixels(), 4958U);  // 4953 at least
+}
+
+TEST(Page, ItsWidthIsNoMoreThanItsRowHasRoomFor) {
+  EXPECT_EQ(pageOf(128, 1, 209902).widthPixels(), 96U);
+  EXPECT_EQ(pageOf(128, 2, 0xFFFFFFFF).widthPixels(), 48U);
+}
+
+TEST(Page, ItsWidthIsAllTheRowWhenThePaperIsMuchNarrower) {
+  EXPECT_EQ(pageOf(5120, 1, 209592).widthPixels(), 5088U);  // 4951 pixels
+  EXPECT_EQ(pageOf(5120, 1, 209635).widthPixels(), 4961U);  // 4952 pixels
+  EXPECT_EQ(pageOf(5120, 1, 0).widthPixels(), 5088U);
+  EXPECT_EQ(pageOf(128, 4, 0).widthPixels(), 24U);
+}
+
+TEST(Page, ARowTooShortForItsPaddingHasNoPixels) {
+  EXPECT_EQ(pageOf(0, 1, 209902).widthPixels(), 0U);
+  EXPECT_EQ(pageOf(16, 1, 0).widthPixels(), 0U);
+}
+
+TEST(StoredPlane, ACursorGivesTheRowsOfAllBandsAndThenNone) {
+  StoredPlane plane(16);
+  plane.append(2, jobtest::literalBand(jobtest::solidRows(2, 16, 0xAA), false));
+  plane.append(1, jobtest::literalBand(jobtest::solidRows(1, 16, 0x55), false));
+  EXPECT_EQ(plane.rows(), 3U);
+  RowCursor cursor(plane);
+  for (const std::uint8_t byte : std::initializer_list<std::uint8_t>{0xAA, 0xAA, 0x55}) {
+    const auto row = cursor.next();
+    EXPECT_EQ(jobtest::Bytes(row.begin(), row.end()), jobtest::Bytes(16, byte));
+  }
+  EXPECT_TRUE(cursor.next().empty());
+  EXPECT_TRUE(cursor.next().empty());
+}
+
+TEST(StoredPlane, ALostBandIsBlank) {
+  StoredPlane plane(16);
+  plane.append(3, {});
+  EXPECT_EQ(plane.rowsOfBand(0), jobtest::Bytes(48));
+}
+
+TEST(StoredPlane, MoreRowsThanABandHasWordsAreNotEvenTried) {
+  EXPECT_FALSE(decodeBand(jobtest::Bytes(510), 256, 8176).complete);
+  EXPECT_TRUE(decodeBand(jobtest::Bytes(512), 256, 16).complete);
+}
+
+}  // namespace
+}  // namespace gdi::reader

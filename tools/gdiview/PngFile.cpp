@@ -1,0 +1,96 @@
+// SPDX-FileCopyrightText: 2026 The rasterToGDI authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "tools/gdiview/PngFile.h"
+
+#include <cerrno>
+#include <csetjmp>
+#include <system_error>
+#include <utility>
+
+namespace gdi::gdiview {
+
+namespace {
+
+// Halftones are full of repetition: more effort than this costs time and saves little.
+constexpr int kCompressionLevel = 3;
+
+}  // namespace
+
+std::unique_ptr<PngFile> PngFile::create(const std::filesystem::path& path,
+                                         const PngLayout& layout) {
+  std::FILE* file = std::fopen(path.c_str(), "wbe");
+  if (file == nullptr) {
+    return nullptr;
+  }
+  std::unique_ptr<PngFile> png(new PngFile(path, file));
+  if (!png->writeHeader(layout)) {
+    return nullptr;
+  }
+  return png;
+}
+
+PngFile::PngFile(std::filesystem::path path, std::FILE* file)
+    : path_(std::move(path)), file_(file) {
+}
+
+PngFile::~PngFile() {
+  const int error = errno;
+  png_destroy_write_struct(&png_, &info_);
+  if (file_ != nullptr) {
+    (void)std::fclose(file_);
+  }
+  if (!finished_) {
+    std::error_code ignored;
+    std::filesystem::remove(path_, ignored);
+  }
+  errno = error;
+}
+
+// libpng leaves a failed call with longjmp, past no object with a destructor in the three below.
+// NOLINTBEGIN(cert-err52-cpp): libpng knows no other way to report an error.
+bool PngFile::writeHeader(const PngLayout& layout) {
+  // libpng's messages are dropped: errno tells the person more.
+  png_ = png_create_write_struct(
+      PNG_LIBPNG_VER_STRING, nullptr, [](png_structp png, png_const_charp) { png_longjmp(png, 1); },
+      [](png_structp, png_const_charp) {});
+  info_ = png_ == nullptr ? nullptr : png_create_info_struct(png_);
+  if (info_ == nullptr) {
+    errno = ENOMEM;
+    return false;
+  }
+  if (setjmp(png_jmpbuf(png_)) != 0) {
+    return false;
+  }
+  png_init_io(png_, file_);
+  png_set_user_limits(png_, PNG_UINT_31_MAX, PNG_UINT_31_MAX);
+  png_set_IHDR(png_, info_, layout.width, layout.height, 8,
+               layout.channels == 1 ? PNG_COLOR_TYPE_GRAY : PNG_COLOR_TYPE_RGB, PNG_INTERLACE_NONE,
+               PNG_COMPRESSION_TYPE_DEFAULT, PNG_FILTER_TYPE_DEFAULT);
+  png_set_pHYs(png_, info_, layout.samplesPerMetre, layout.samplesPerMetre, PNG_RESOLUTION_METER);
+  png_set_compression_level(png_, kCompressionLevel);
+  png_set_filter(png_, PNG_FILTER_TYPE_BASE, PNG_FILTER_NONE);
+  png_write_info(png_, info_);
+  return true;
+}
+
+bool PngFile::writeRow(std::span<const std::uint8_t> row) {
+  if (setjmp(png_jmpbuf(png_)) != 0) {
+    return false;
+  }
+  png_write_row(png_, row.data());
+  return true;
+}
+
+bool PngFile::finish() {
+  if (setjmp(png_jmpbuf(png_)) != 0) {
+    return false;
+  }
+  png_write_end(png_, nullptr);
+  std::FILE* file = std::exchange(file_, nullptr);
+  finished_ = std::fclose(file) == 0;
+  return finished_;
+}
+// NOLINTEND(cert-err52-cpp)
+
+}  // namespace gdi::gdiview

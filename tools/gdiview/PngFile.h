@@ -1,0 +1,52 @@
+// SPDX-FileCopyrightText: 2026 The rasterToGDI authors
+// SPDX-License-Identifier: Apache-2.0
+
+// One PNG file, 8 bits a sample, written row by row; a file that is not finished is removed.
+#pragma once
+
+#include <cstdint>
+#include <cstdio>
+#include <filesystem>
+#include <memory>
+#include <span>
+
+#include <png.h>
+
+namespace gdi::gdiview {
+
+struct PngLayout {
+  std::uint32_t width = 0;     // samples, > 0
+  std::uint32_t height = 0;    // rows, > 0
+  std::uint32_t channels = 1;  // 1 = grey, 3 = RGB
+  std::uint32_t samplesPerMetre = 0;
+};
+
+class PngFile {
+ public:
+  // Null when the file cannot be made; errno says why.
+  static std::unique_ptr<PngFile> create(const std::filesystem::path& path,
+                                         const PngLayout& layout);
+  ~PngFile();
+  PngFile(const PngFile&) = delete;
+  PngFile& operator=(const PngFile&) = delete;
+  PngFile(PngFile&&) = delete;
+  PngFile& operator=(PngFile&&) = delete;
+
+  // The next row, width x channels bytes. False when it cannot be written; nothing more may be
+  // written then.
+  bool writeRow(std::span<const std::uint8_t> row);
+  // Ends the file after its last row. False when it could not all be written.
+  bool finish();
+
+ private:
+  PngFile(std::filesystem::path path, std::FILE* file);
+  bool writeHeader(const PngLayout& layout);
+
+  std::filesystem::path path_;
+  std::FILE* file_;
+  png_structp png_ = nullptr;
+  png_infop info_ = nullptr;
+  bool finished_ = false;
+};
+
+}  // namespace gdi::gdiview
