@@ -136,7 +136,8 @@ void CUPSFilter::readPPD() {
 }
 
 bool CUPSFilter::run() {
-  CPSDebugLog("CUPSFIlter run: ");
+  CPSDebugLog("CUPSFIlter run: ");  // docs/quirks.md, "CUPSFIlter"
+  // docs/quirks.md, "Negative copies".
   copies = static_cast<std::uint32_t>(intForOption("com.apple.print.PrintSettings.PMCopies..n."));
   CPSDebugLog("copies: %d", static_cast<int>(copies));
   if (copies == 0) {
@@ -147,6 +148,7 @@ bool CUPSFilter::run() {
   constexpr int kDuplexLongEdge = 2;
   constexpr int kDuplexShortEdge = 3;
   const int duplexing = intForOption("com.apple.print.PrintSettings.PMDuplexing..n.");
+  // The edges are set whatever the paper: docs/quirks.md, "Binding without duplex".
   if (duplexing == kDuplexLongEdge || duplexing == kDuplexShortEdge) {
     duplex = canDuplexPaperSize();
     longEdge = duplexing == kDuplexLongEdge;

@@ -47,7 +47,8 @@ class CUPSFilter {
   [[nodiscard]] int intForOption(std::string_view option) const;
   [[nodiscard]] bool boolForOption(std::string_view option) const;
 
-  // A per-model setting: an entry of the bundle's information dictionary, not of the PPD file.
+  // A per-model setting: an entry of the bundle's information dictionary, not of the PPD file:
+  // docs/quirks.md, "PPD attributes of the bundle".
   [[nodiscard]] std::optional<std::string> stringForPPDAttr(const std::string& attribute) const;
   [[nodiscard]] bool boolForPPDAttr(const std::string& attribute) const;
 
@@ -56,16 +57,16 @@ class CUPSFilter {
   std::string printerName;                    // the PPD's nickname; may be empty
   std::optional<std::string> jobName;         // nothing when the option is absent
   std::uint32_t priorityTray = 0;             // carried, without a meaning
-  int argc = 0;                               //
+  int argc = 0;                               // entries of argv
   const char** argv = nullptr;                // the process's; not owned
-  OptionsDict optionsDict;                    //
+  OptionsDict optionsDict;                    // the job options, argv[5]
   std::optional<std::string> uri;             // DEVICE_URI; nothing when unset
   std::string ppdFile;                        // where libcups put the PPD; removed once it is open
   ppd_file_t* ppd = nullptr;                  // may be null; owned
   int sourceFD = 0;                           // where the raster is read from
   std::optional<std::string> cupsICCProfile;  // name or path of the job's colour profile
   std::uint32_t copies = 0;                   // >= 1 after run()
-  bool collate = false;                       //
+  bool collate = false;                       // copies come collated
   bool duplex = false;                        // two-sided, and the paper allows it
   bool longEdge = false;                      // two-sided, bound on the long edge
   bool shortEdge = false;                     // two-sided, bound on the short edge

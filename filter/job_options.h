@@ -23,7 +23,7 @@ using OptionsDict = std::map<std::string, std::string, std::less<>>;
 
 // Parses options as the spooler passes them ("media=A4 nocollate fit-to-page"), in the order in
 // which libcups lists them. What libcups makes of an option is what counts: a bare `name` is
-// "true", `noname` is "false", `name=` is empty. Null gives no options.
+// "true", `noname` is "false", `name=` is empty: docs/quirks.md, "Bare options". Null gives none.
 std::vector<JobOption> parseJobOptions(const char* text);
 
 // The option's value; nothing when absent.

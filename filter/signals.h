@@ -8,6 +8,7 @@
 
 namespace gdi {
 
+// What a signal handler may write by the language's rules.
 extern volatile std::sig_atomic_t gSigTerm;  // 1 after SIGTERM: the job was cancelled
 extern volatile std::sig_atomic_t gSigPipe;  // 1 after SIGPIPE: the output pipe is broken
 

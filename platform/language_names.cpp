@@ -4,10 +4,14 @@
 #include "platform/language_names.h"
 
 #include <algorithm>
+#include <climits>
 
 namespace gdi {
 
 namespace {
+
+constexpr std::string_view kFolderSuffix = ".lproj";
+constexpr std::size_t kLongestName = NAME_MAX - kFolderSuffix.size();  // bytes
 
 bool isNameCharacter(char c) {
   return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || c == '_' ||
@@ -23,6 +27,9 @@ void addName(std::vector<std::string>& names, std::string_view name) {
 }  // namespace
 
 std::vector<std::string> languageNames(std::string_view language) {
+  if (language.size() > kLongestName) {
+    return {};  // names no folder
+  }
   const std::size_t at = std::min(language.find('@'), language.size());
   const std::string_view modifier = language.substr(at);
   std::string_view base = language.substr(0, at);

@@ -61,7 +61,7 @@ bool RasterFilter::sendLines() {
   bool succeeded = true;
   for (rasterLineNumber = 0; succeeded && rasterLineNumber < cupsPageHeader.cupsHeight;
        ++rasterLineNumber) {
-    const bool stop = cancelled();
+    const bool stop = cancelled();  // and yet it is read: docs/quirks.md, "A cancelled line"
     const unsigned read =
         cupsRaster->readPixels({rasterBuffer.data(), cupsPageHeader.cupsBytesPerLine});
     if (stop || read == 0) {

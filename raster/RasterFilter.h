@@ -4,7 +4,8 @@
 // The page and line loop: reads the raster stream into one line buffer and drives the five stage
 // operations that the rest of the chain overrides.
 //
-// One thread. Cancellation is polled before the first page, before every line and after every page.
+// One thread. Cancellation is polled before the first page, after each page's start, before every
+// line and after every page.
 #pragma once
 
 #include <cstdint>
@@ -47,7 +48,7 @@ class RasterFilter : public CUPSFilter {
   cups_page_header_t cupsPageHeader{};       // the last page read
   std::uint32_t rasterPixelCount = 0;        // pixels of the line buffer, even
   std::uint32_t rasterByteCount = 0;         // bytes of the line buffer
-  ZeroedBuffer rasterBuffer;                 //
+  ZeroedBuffer rasterBuffer;                 // the current line, from allocRasterBuffer on
   std::uint32_t rasterLineNumber = 0;        // line in the buffer, 0 for the first
   bool mirror = false;                       // reverse each line; set by the printer's stage
   std::uint8_t blankAccumulator = 0;         // OR of every byte sent since startPage

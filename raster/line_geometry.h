@@ -21,7 +21,8 @@ struct LineGeometry {
 std::uint32_t channelsOf(const cups_page_header_t& header);
 
 // The line buffer of that page; nothing, with the reason in `refusal`, when a line of the raster
-// would not fit in it.
+// would not fit in it, or would be read as something else than it is: only chunky pixels of 8 bits
+// a colour can be screened.
 std::optional<LineGeometry> lineGeometry(const cups_page_header_t& header, std::string& refusal);
 
 }  // namespace gdi

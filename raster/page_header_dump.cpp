@@ -4,10 +4,10 @@
 #include "raster/page_header_dump.h"
 
 #include <array>
-#include <cstring>
 #include <span>
 
 #include "filter/log/debug_log.h"
+#include "raster/header_field.h"
 
 namespace gdi {
 
@@ -19,15 +19,6 @@ constexpr std::array kEdgeWords{"top", "right", "bottom", "left"};
 // 280 where 180 is meant: docs/quirks.md, "Orientation 280".
 constexpr std::array kOrientationWords{"0", "90", "280", "270"};
 constexpr std::array kColorOrderWords{"chunked", "banded", "planar"};
-
-// A field as the stream gave it: no enumerator may stand for it, so it is never read as one.
-template <typename Field>
-unsigned valueOf(const Field& field) {
-  unsigned value = 0;
-  static_assert(sizeof field == sizeof value);
-  std::memcpy(&value, &field, sizeof value);
-  return value;
-}
 
 template <typename Field>
 const char* word(std::span<const char* const> words, const Field& field) {

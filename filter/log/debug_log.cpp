@@ -22,21 +22,47 @@ const char* gDebugLogPath = "/tmp/CUPSDebug.log";
 
 namespace {
 
-// Opens the log for appending through no link: /tmp is everybody's, and the filter may run as root.
+// Keeps errno over a logging call: callers log first and ask what went wrong afterwards.
+class ErrnoKeeper {
+ public:
+  ErrnoKeeper() : saved_(errno) {}
+  ~ErrnoKeeper() { errno = saved_; }
+  ErrnoKeeper(const ErrnoKeeper&) = delete;
+  ErrnoKeeper& operator=(const ErrnoKeeper&) = delete;
+
+ private:
+  int saved_;
+};
+
+// Where systems protect shared folders, O_CREAT is refused for a file that somebody else owns, so
+// it is only asked for when there is none.
+int openOrCreateLog() {
+  constexpr int kAppend = O_WRONLY | O_APPEND | O_NOFOLLOW | O_CLOEXEC | O_NONBLOCK;
+  int descriptor = open(gDebugLogPath, kAppend);
+  if (descriptor < 0 && errno == ENOENT) {
+    descriptor = open(gDebugLogPath, kAppend | O_CREAT | O_EXCL, 0666);
+    if (descriptor < 0 && errno == EEXIST) {  // another filter was faster
+      descriptor = open(gDebugLogPath, kAppend);
+    }
+  }
+  return descriptor;
+}
+
+// Opens the log through no link, symbolic or hard: /tmp is everybody's, and the filter may run as
+// root.
 std::FILE* openLogFile() {
-  const int descriptor = open(
-      gDebugLogPath, O_WRONLY | O_APPEND | O_CREAT | O_NOFOLLOW | O_CLOEXEC | O_NONBLOCK, 0666);
+  const int descriptor = openOrCreateLog();
   if (descriptor < 0) {
     return nullptr;
   }
   struct stat status {};
-  if (fstat(descriptor, &status) != 0 || !S_ISREG(status.st_mode)) {
+  if (fstat(descriptor, &status) != 0 || !S_ISREG(status.st_mode) || status.st_nlink != 1) {
     (void)close(descriptor);
     errno = EINVAL;
     return nullptr;
   }
-  (void)fchmod(descriptor,
-               0666);  // somebody else's file keeps its mode, and is written all the same
+  constexpr mode_t kForEverybody = 0666;
+  (void)fchmod(descriptor, kForEverybody);  // somebody else's file keeps the mode it has
   std::FILE* file = fdopen(descriptor, "a");
   if (file == nullptr) {
     (void)close(descriptor);
@@ -93,7 +119,7 @@ void DebugEnd() {
 }
 
 void CPSDebugLog(const char* format, ...) {
-  const int savedErrno = errno;
+  const ErrnoKeeper errnoKeeper;
   DebugStart();
   if (gDebugFile != nullptr) {
     std::va_list arguments;
@@ -101,11 +127,10 @@ void CPSDebugLog(const char* format, ...) {
     writeLine("", format, arguments);
     va_end(arguments);
   }
-  errno = savedErrno;
 }
 
 void CPSDebugAssert_(const char* format, ...) {
-  const int savedErrno = errno;
+  const ErrnoKeeper errnoKeeper;
   DebugStart();
   if (gDebugFile != nullptr) {
     std::va_list arguments;
@@ -113,10 +138,10 @@ void CPSDebugAssert_(const char* format, ...) {
     writeLine("ASSERT: ", format, arguments);
     va_end(arguments);
   }
-  errno = savedErrno;
 }
 
 void CPSDebugLogHexDump(const std::uint8_t* bytes, std::uint32_t count) {
+  const ErrnoKeeper errnoKeeper;
   DebugStart();
   if (gDebugFile == nullptr) {
     return;

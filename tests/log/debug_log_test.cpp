@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cerrno>
 #include <ctime>
 #include <filesystem>
 #include <fstream>
@@ -21,6 +22,10 @@ namespace gdi {
 namespace {
 
 using test::contentsOf;
+
+// Before any test points them elsewhere.
+const char* const kMarkerAtStart = gDebugMarkerPath;
+const char* const kLogAtStart = gDebugLogPath;
 
 // Every test has a marker path and a log path of its own in a fresh folder; the log starts off.
 class DebugLog : public testing::Test {
@@ -114,6 +119,31 @@ TEST_F(DebugLog, ALinkInThePlaceOfTheLogIsNotFollowed) {
   CPSDebugLog("one");
   EXPECT_NE(testing::internal::GetCapturedStderr().find(") one\n"), std::string::npos);
   EXPECT_EQ(contentsOf(victim), "\n");
+}
+
+TEST_F(DebugLog, AHardLinkInThePlaceOfTheLogIsNotFollowed) {
+  makeMarker();
+  const std::filesystem::path victim = folder_ / "victim";
+  std::ofstream(victim).put('\n');
+  std::filesystem::create_hard_link(victim, log_);
+  testing::internal::CaptureStderr();
+  CPSDebugLog("one");
+  EXPECT_NE(testing::internal::GetCapturedStderr().find(") one\n"), std::string::npos);
+  EXPECT_EQ(contentsOf(victim), "\n");
+}
+
+TEST_F(DebugLog, KeepsTheErrorThatItsCallerIsAboutToTell) {
+  makeMarker();
+  errno = ENOSPC;
+  CPSDebugLog("one");
+  CPSDebugAssert_("two");
+  CPSDebugLogHexDump(nullptr, 0);
+  EXPECT_EQ(errno, ENOSPC);
+}
+
+TEST(DebugLogPlaces, AreInTheFolderForEverybody) {
+  EXPECT_STREQ(kMarkerAtStart, "/tmp/gdidebug");
+  EXPECT_STREQ(kLogAtStart, "/tmp/CUPSDebug.log");
 }
 
 TEST_F(DebugLog, StandardErrorIsLeftOpenAtTheEnd) {

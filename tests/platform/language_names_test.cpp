@@ -28,6 +28,17 @@ TEST(LanguageNames, OfNothingAreNone) {
   EXPECT_EQ(languageNames(".UTF-8"), Names());
 }
 
+TEST(LanguageNames, OfATextTooLongForAFolderAreNone) {
+  const auto named = [](std::size_t length) { return languageNames(std::string(length, 'a')); };
+  EXPECT_EQ(named(249).size(), 1U);  // with ".lproj" the 255 bytes that a name may have
+  EXPECT_TRUE(named(250).empty());
+  std::string manyParts;
+  while (manyParts.size() < 100000) {
+    manyParts += "a_";
+  }
+  EXPECT_TRUE(languageNames(manyParts).empty());
+}
+
 TEST(LanguageNames, NeverHoldAPath) {
   EXPECT_EQ(languageNames("../../etc/de"), Names());
   EXPECT_EQ(languageNames("/tmp/de"), Names());

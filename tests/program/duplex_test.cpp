@@ -31,8 +31,10 @@ class DuplexJob : public testing::Test {
     for (std::size_t i = 0; i < turned.size(); ++i) {
       const RasterPage page{.width = 64, .height = 20, .channels = 1, .sample = noise};
       pages.push_back(page);
-      job.pages.push_back(
-          {.page = page, .number = static_cast<std::uint32_t>(i), .upsideDown = turned[i]});
+      job.pages.push_back({.page = page,
+                           .number = static_cast<std::uint32_t>(i),
+                           .upsideDown = turned[i],
+                           .media = media_});
     }
     if (filler) {
       job.pages.push_back(*filler);
@@ -49,6 +51,7 @@ class DuplexJob : public testing::Test {
   }
 
   FilterProcess filter_;
+  std::uint8_t media_ = 1;
 };
 
 TEST_F(DuplexJob, BackSidesOfLongEdgeJobsAreTurnedWhereTheModelNeedsIt) {
@@ -83,9 +86,9 @@ TEST_F(DuplexJob, AOnePageJobGetsNoBlankPage) {
 }
 
 TEST_F(DuplexJob, PaperThatCannotBeDuplexedGetsNoBlankPage) {
-  filter_.title = "Title";
-  const std::filesystem::path bundle = filter_.folder() / "bundle";
-  expectSides(std::string(kLongEdge) + kThreeSides + " media=Custom.200x300mm", "", {});
+  media_ = 255;
+  expectSides(std::string(kLongEdge) + kThreeSides + " media=Custom.200x300mm",
+              "SolvaneFlipDuplex = true;", {false, false, false});
 }
 
 TEST_F(DuplexJob, BeforeTenFourEachSideIsRepeatedForItsCopies) {

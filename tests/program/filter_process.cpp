@@ -140,12 +140,15 @@ void FilterProcess::start(bool keepInputOpen) {
   process_ = fork();
   ASSERT_GE(process_, 0);
   if (process_ == 0) {
-    const int in = keepInputOpen ? inputPipe[0] : open(input.c_str(), O_RDONLY);
-    const int out = open(output.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0644);
-    const int err = open(errors.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_APPEND, 0644);
+    const int in = keepInputOpen ? inputPipe[0] : open(input.c_str(), O_RDONLY | O_CLOEXEC);
+    const int out = open(output.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644);
+    const int err = open(errors.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_APPEND | O_CLOEXEC, 0644);
     (void)dup2(in, STDIN_FILENO);
     (void)dup2(out, STDOUT_FILENO);
     (void)dup2(err, STDERR_FILENO);
+    for (const int descriptor : closed) {
+      (void)close(descriptor);
+    }
     (void)execve(executable.c_str(), argumentPointers.data(), environmentPointers.data());
     _exit(127);
   }
@@ -168,6 +171,12 @@ void FilterProcess::feed(std::span<const std::uint8_t> bytes) const {
 
 void FilterProcess::send(int signal) const {
   (void)kill(process_, signal);
+}
+
+bool FilterProcess::isRunning() const {
+  siginfo_t ended{};
+  return waitid(P_PID, static_cast<id_t>(process_), &ended, WEXITED | WNOHANG | WNOWAIT) == 0 &&
+         ended.si_pid == 0;
 }
 
 void FilterProcess::closeInput() {

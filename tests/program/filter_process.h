@@ -49,12 +49,14 @@ class FilterProcess {
   std::optional<std::string> ppd = ppdText();         // nothing: the queue has no PPD
   std::string program;                          // the executable; the one under test when empty
   std::string outputPath;                       // where standard output goes; a file when empty
+  std::vector<int> closed;                      // descriptors that the program finds closed
   bool debugLog = false;                        // whether the log's marker exists
   std::optional<std::filesystem::path> bundle;  // resources to run with; the built ones if absent
 
   // Starts the program; its standard input ends with the raster, or stays open after it.
   void start(bool keepInputOpen = false);
   void send(int signal) const;
+  [[nodiscard]] bool isRunning() const;
   // More standard input, of a program that was started with its input kept open.
   void feed(std::span<const std::uint8_t> bytes) const;
   void closeInput();

@@ -71,7 +71,30 @@ TEST(LineGeometry, SixteenBitsPerColourAreRefused) {
 }
 
 TEST(LineGeometry, NoBitsPerColourAreRefused) {
-  EXPECT_EQ(refusalOf(header(4, 0, 8, 4)), "the page header has 0 bits per colour");
+  EXPECT_EQ(refusalOf(header(4, 0, 8, 4)), "the page header has 0 bits per colour, not 8");
+}
+
+TEST(LineGeometry, FewerThanEightBitsPerColourAreRefused) {
+  EXPECT_EQ(refusalOf(header(64, 1, 1, 8)), "the page header has 1 bits per colour, not 8");
+  EXPECT_EQ(refusalOf(header(64, 4, 16, 128)), "the page header has 4 bits per colour, not 8");
+}
+
+TEST(LineGeometry, ColoursThatStandApartAreRefused) {
+  for (const cups_order_t order : {CUPS_ORDER_BANDED, CUPS_ORDER_PLANAR}) {
+    cups_page_header_t page = header(64, 8, 8, 64);
+    page.cupsColorOrder = order;
+    page.cupsColorSpace = CUPS_CSPACE_CMYK;
+    EXPECT_EQ(refusalOf(page), "its colours are not chunky, pixel by pixel");
+  }
+}
+
+TEST(LineGeometry, OneColourIsTheSameInEveryOrder) {
+  for (const cups_order_t order : {CUPS_ORDER_BANDED, CUPS_ORDER_PLANAR}) {
+    cups_page_header_t page = header(64, 8, 8, 64);
+    page.cupsColorOrder = order;
+    page.cupsColorSpace = CUPS_CSPACE_K;
+    expectLine(page, 64, 64);
+  }
 }
 
 TEST(LineGeometry, APixelSmallerThanItsColourIsRefused) {
@@ -79,8 +102,8 @@ TEST(LineGeometry, APixelSmallerThanItsColourIsRefused) {
 }
 
 TEST(LineGeometry, ALineOf4GiBAndMoreIsRefused) {
-  EXPECT_NE(refusalOf(header(0x40000000, 8, 32, 16)), "");
-  EXPECT_NE(refusalOf(header(0xFFFFFFFF, 8, 8, 1)), "");
+  EXPECT_EQ(refusalOf(header(0x40000000, 8, 32, 16)), "a page of 1073741824 pixels is too wide");
+  EXPECT_EQ(refusalOf(header(0xFFFFFFFF, 8, 8, 1)), "a page of 4294967295 pixels is too wide");
   expectLine(header(0x3FFFFFFE, 8, 32, 16), 0x3FFFFFFE, 0xFFFFFFF8);
 }
 

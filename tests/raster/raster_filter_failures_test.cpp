@@ -76,8 +76,9 @@ TEST_F(FailingPageLoop, AHeaderThatIsRefusedFailsItsPageWithoutAStart) {
   filter_.pages[0].header.cupsBitsPerColor = 0;
   EXPECT_EQ(callsOfFailedRun(),
             (Calls{"open", "startJob", "header", "endPage 0", "endJob", "close"}));
-  EXPECT_EQ(told_,
-            "INFO: \nERROR: page 1 cannot be printed: the page header has 0 bits per colour\n");
+  EXPECT_EQ(
+      told_,
+      "INFO: \nERROR: page 1 cannot be printed: the page header has 0 bits per colour, not 8\n");
   EXPECT_EQ(filter_.pageCount, 1U);
 }
 
