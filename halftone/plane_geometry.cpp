@@ -3,6 +3,8 @@
 
 #include "halftone/plane_geometry.h"
 
+#include "printer/format/job_stream_format.h"
+
 namespace gdi {
 
 std::uint32_t ditherBPPForQuality(std::string_view quality) {
@@ -13,8 +15,8 @@ std::uint32_t ditherBPPForQuality(std::string_view quality) {
 }
 
 std::uint32_t ditherBitWidthFor(std::uint32_t bitsPerPixel, std::uint32_t width) {
-  const std::uint32_t wholeBytes = (bitsPerPixel * width + 39) & ~7U;
-  return (wholeBytes + 127) & ~127U;
+  const std::uint32_t wholeBytes = (bitsPerPixel * width + kRowSlackBits + 7) & ~7U;
+  return (wholeBytes + kRowBitsMultiple - 1) & ~(kRowBitsMultiple - 1);
 }
 
 std::uint32_t ditherBandCountFor(std::uint32_t height, std::uint32_t bandHeight) {

@@ -12,8 +12,6 @@ namespace gdi::reader {
 
 namespace {
 
-constexpr std::uint32_t kRowBitsMultiple = 128;
-
 std::string bandName(Ink ink, std::uint32_t band) {
   return std::string(nameOf(ink)) + " band " + std::to_string(band);
 }
@@ -72,9 +70,11 @@ void JobReader::startPage(const PageRecord& record) {
   assembly.page.record = record;
   assembly.page.bitsPerPixel = job_->bitsPerPixel;
   assembly.page.offset = records_.recordOffset();
-  assembly.page.planes.fill(StoredPlane(record.rowBits / 8U));
+  assembly.page.rowBits = likelyRowBits(record, job_->bitsPerPixel);
+  assembly.page.planes.fill(StoredPlane(assembly.page.rowBits / 8, record.rowsModulo64K));
   assembly.usable = true;
-  if (record.rowBits == 0 || record.rowBits % kRowBitsMultiple != 0) {
+  toldOfPage_ = 0;
+  if (record.rowBits % kRowBitsMultiple != 0) {
     report("the page record says " + std::to_string(record.rowBits) +
            " bits a row, which is no multiple of " + std::to_string(kRowBitsMultiple));
     assembly.usable = false;
@@ -109,13 +109,15 @@ void JobReader::addBand(Band&& band) {
            std::to_string(kBandHeight));
     return;
   }
-  if (!checkBand(band, *ink)) {
-    band.data.clear();
+  StoredPlane& plane = page.planes[indexOf(*ink)];
+  if (checkBand(band, *ink)) {
+    plane.append(band.record.rows, std::move(band.data));
+  } else {
+    plane.appendLost(band.record.rows);
   }
   page.flaggedBlank = band.record.pageBlank;
   assembly_->closed = band.record.last();
   ++assembly_->arrived[indexOf(*ink)];
-  page.planes[indexOf(*ink)].append(band.record.rows, std::move(band.data));
 }
 
 std::optional<Ink> JobReader::inkOf(const Band& band) {
@@ -149,8 +151,7 @@ bool JobReader::checkBand(const Band& band, Ink ink) {
   if (!band.ink) {
     return false;
   }
-  const DecodedBand decoded =
-      decodeBand(band.data, band.record.rows, assembly_->page.planes[indexOf(ink)].rowBytes());
+  const DecodedBand decoded = decode(band);
   if (!decoded.complete) {
     report(records_.recordOffset() + band_record::kLength,
            name + " (" + std::to_string(band.data.size()) + " bytes) does not decode to " +
@@ -158,9 +159,32 @@ bool JobReader::checkBand(const Band& band, Ink ink) {
     return false;
   }
   checkTrailer(band, decoded.consumed, name);
-  assembly_->inked[indexOf(ink)] |= std::any_of(decoded.rows.begin(), decoded.rows.end(),
-                                                [](std::uint8_t byte) { return byte != 0; });
+  assembly_->inked |= std::any_of(decoded.rows.begin(), decoded.rows.end(),
+                                  [](std::uint8_t byte) { return byte != 0; });
   return true;
+}
+
+// Until there is ink, any length will do for the bands that have come; and what does not decode to
+// rows of some length does not decode to shorter ones either.
+DecodedBand JobReader::decode(const Band& band) {
+  Page& page = assembly_->page;
+  DecodedBand decoded = decodeBand(band.data, band.record.rows, page.rowBits / 8);
+  if (decoded.complete || assembly_->inked) {
+    return decoded;
+  }
+  for (auto bits = nextLongerRow(page.rowBits); bits; bits = nextLongerRow(*bits)) {
+    DecodedBand longer = decodeBand(band.data, band.record.rows, *bits / 8);
+    if (longer.complete) {
+      note(page.offset, "the page's rows are of " + std::to_string(*bits) +
+                            " bits, which its paper's width does not suggest");
+      page.rowBits = *bits;
+      for (StoredPlane& plane : page.planes) {
+        plane.setRowBytes(*bits / 8);
+      }
+      return longer;
+    }
+  }
+  return decoded;
 }
 
 // Behind its last row a page's last band has the trailer, and any other band has nothing.
@@ -184,9 +208,29 @@ void JobReader::checkTrailer(const Band& band, std::size_t consumed, const std::
   }
 }
 
+// docs/quirks.md, "A page of 257 rows"
+bool JobReader::endsEarlyAsWritten(const Page& page) const {
+  const std::uint32_t steps = assembly_->arrived[indexOf(Ink::kBlack)];
+  const std::uint32_t rows = steps * kBandHeight + 1;
+  if (assembly_->closed || steps == 0 || rows % 65536 != page.record.rowsModulo64K) {
+    return false;
+  }
+  const BandCounts sent = bandsOfSteps(steps, bandsFor(rows));
+  return std::all_of(kInks.begin(), kInks.end(), [&](Ink ink) {
+    const std::uint32_t bands = usesInk(page, ink) ? sent[indexOf(ink)] : 0;
+    return assembly_->arrived[indexOf(ink)] == bands &&
+           page.plane(ink).rows() == bands * kBandHeight;
+  });
+}
+
 Page JobReader::finishPage() {
   Page page = std::move(assembly_->page);
-  if (assembly_->usable) {
+  if (assembly_->usable && endsEarlyAsWritten(page)) {
+    const std::uint32_t steps = assembly_->arrived[indexOf(Ink::kBlack)];
+    note(page.offset, "the page ends after its band step " + std::to_string(steps - 1) +
+                          ", as one of " + std::to_string(steps * kBandHeight + 1) +
+                          " rows does (docs/quirks.md, \"A page of 257 rows\")");
+  } else if (assembly_->usable) {
     for (const Ink ink : {Ink::kBlack, Ink::kCyan, Ink::kMagenta, Ink::kYellow}) {
       const std::uint32_t rows = page.plane(ink).rows();
       if (usesInk(page, ink) && rows % 65536 != page.record.rowsModulo64K) {
@@ -198,8 +242,7 @@ Page JobReader::finishPage() {
     if (!assembly_->closed && page.bandCount > 0) {
       report(page.offset, "the page's last band lacks the last band's flag");
     }
-    if (page.flaggedBlank && std::find(assembly_->inked.begin(), assembly_->inked.end(), true) !=
-                                 assembly_->inked.end()) {
+    if (page.flaggedBlank && assembly_->inked) {
       report(page.offset, "the page is flagged as blank and is not");
     }
   }
@@ -207,13 +250,15 @@ Page JobReader::finishPage() {
   return page;
 }
 
-void JobReader::report(std::uint64_t offset, std::string text) {
-  if (troubles_.size() == kMostTroubles) {
-    text = "there is more that is not told";
+void JobReader::tell(Trouble&& trouble) {
+  if (toldOfPage_ < kMostTroubles) {
+    troubles_.push_back(std::move(trouble));
+  } else if (toldOfPage_ == kMostTroubles) {
+    troubles_.push_back({trouble.offset, "there is more that is not told"});
+  } else {
+    return;
   }
-  if (troubles_.size() <= kMostTroubles) {
-    troubles_.push_back({offset, std::move(text)});
-  }
+  ++toldOfPage_;
 }
 
 }  // namespace gdi::reader

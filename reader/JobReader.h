@@ -26,8 +26,10 @@ class JobReader {
   // page that the stream breaks off is still given, with what arrived of it.
   std::optional<Page> nextPage();
 
-  // What was found wrong since the last call, in the order of the stream. Of one page no more
-  // than kMostTroubles are told.
+  // What was found since the last call, in the order in which it was found: what concerns a whole
+  // page follows its bands' and has the page record's offset, and the next page's record may have
+  // been looked at as well. Of each page kMostTroubles are told and then that there is more; what
+  // the stream breaks off with is always told.
   std::vector<Trouble> takeTroubles();
   static constexpr std::size_t kMostTroubles = 20;
 
@@ -44,9 +46,9 @@ class JobReader {
   struct Assembly {
     Page page;
     BandCounts arrived{};
-    std::array<bool, kInkCount> inked{};  // a pixel of the plane is not blank
-    bool usable = false;                  // bands of this page make sense
-    bool closed = false;                  // the page's last band has come
+    bool inked = false;   // a pixel is not blank
+    bool usable = false;  // bands of this page make sense
+    bool closed = false;  // the page's last band has come
   };
 
   void startPage(const PageRecord& record);
@@ -54,10 +56,16 @@ class JobReader {
   std::optional<Ink> inkOf(const Band& band);
   // Whether the band is sound; its decoded rows are looked at and dropped.
   bool checkBand(const Band& band, Ink ink);
+  // Decodes the band, if need be to longer rows, which are then the page's.
+  DecodedBand decode(const Band& band);
   void checkTrailer(const Band& band, std::size_t consumed, const std::string& name);
+  // Whether the page's last step never came though the writer sent all that it sends.
+  [[nodiscard]] bool endsEarlyAsWritten(const Page& page) const;
   Page finishPage();
-  void report(std::uint64_t offset, std::string text);
+  void report(std::uint64_t offset, std::string text) { tell({offset, std::move(text)}); }
   void report(std::string text) { report(records_.recordOffset(), std::move(text)); }
+  void note(std::uint64_t offset, std::string text) { tell({offset, std::move(text), true}); }
+  void tell(Trouble&& trouble);
 
   RecordReader records_;
   std::optional<JobRecord> job_;
@@ -65,6 +73,7 @@ class JobReader {
   bool ended_ = false;
   std::optional<Assembly> assembly_;
   std::vector<Trouble> troubles_;
+  std::size_t toldOfPage_ = 0;
 };
 
 }  // namespace gdi::reader

@@ -9,14 +9,14 @@
 
 #include "reader/StoredPlane.h"
 #include "reader/records.h"
+#include "reader/row_width.h"
 
 namespace gdi::reader {
-
-inline constexpr std::uint32_t kPixelsPerInch = 600;
 
 struct Page {
   PageRecord record;
   unsigned bitsPerPixel = 1;          // 1, 2 or 4
+  std::uint32_t rowBits = 0;          // padded bits a row; the record tells the low 16
   std::uint64_t offset = 0;           // of the page record, bytes
   std::uint32_t bandCount = 0;        // band records that arrived
   std::uint64_t compressedBytes = 0;  // of all bands that arrived
@@ -32,8 +32,5 @@ struct Page {
   // more than a point narrower than the least such width, it is all that the row has room for.
   [[nodiscard]] std::uint32_t widthPixels() const;
 };
-
-// The padded bits of a row of `pixels` pixels of `bitsPerPixel` bits.
-std::uint64_t paddedRowBits(std::uint64_t pixels, unsigned bitsPerPixel);
 
 }  // namespace gdi::reader

@@ -20,6 +20,7 @@ namespace gdi::reader {
 struct Trouble {
   std::uint64_t offset = 0;  // bytes from the start of the input
   std::string text;
+  bool note = false;  // worth telling, and yet the stream is as it should be
 };
 
 // A band record with the band data that followed it.

@@ -11,7 +11,29 @@
 namespace gdi::reader {
 
 void StoredPlane::append(std::uint32_t rows, std::vector<std::uint8_t> data) {
+  arrivedRows_ += rows;
+  if (lostBeyond_ + heldRows_ <= arrivedRows_) {
+    for (const std::uint32_t lostRows : held_) {
+      add(lostRows, {});
+    }
+    lostBeyond_ += heldRows_;
+  }
+  held_.clear();
+  heldRows_ = 0;
   data.shrink_to_fit();
+  add(rows, std::move(data));
+}
+
+void StoredPlane::appendLost(std::uint32_t rows) {
+  if (held_.empty() && std::uint64_t{rows_} + rows <= toldRows_) {
+    add(rows, {});
+    return;
+  }
+  held_.push_back(rows);
+  heldRows_ += rows;
+}
+
+void StoredPlane::add(std::uint32_t rows, std::vector<std::uint8_t> data) {
   bands_.push_back({rows_, rows, std::move(data)});
   rows_ += rows;
 }

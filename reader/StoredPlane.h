@@ -4,7 +4,9 @@
 // One plane of one page, kept as its compressed bands; rows are decoded when somebody looks.
 //
 // What a plane occupies is thus bounded by the bytes that really arrived, not by the rows that
-// records claim: a band of 256 blank rows of 8 kB is a few hundred bytes long.
+// records claim: a band of 256 blank rows of 8 kB is a few hundred bytes long. A lost band has no
+// bytes at all, and so its rows count only as far as the page is told to have them; beyond that,
+// where the told number has left 65,536s out, rows of bands that did arrive must pay for them.
 #pragma once
 
 #include <cstddef>
@@ -23,11 +25,17 @@ class StoredPlane {
   };
 
   StoredPlane() = default;
-  // rowBytes: a multiple of 16.
-  explicit StoredPlane(std::size_t rowBytes) : rowBytes_(rowBytes) {}
+  // rowBytes: a multiple of 16. toldRows: the rows that the page record tells.
+  StoredPlane(std::size_t rowBytes, std::uint32_t toldRows)
+      : rowBytes_(rowBytes), toldRows_(toldRows) {}
 
-  // Adds the next band, top to bottom.
+  // Adds the next band, top to bottom. `data` is not empty.
   void append(std::uint32_t rows, std::vector<std::uint8_t> data);
+  // Keeps the place of the next band, which is lost. Rows beyond the told ones are held back until
+  // a band follows; they stay out when more of them are lost than have arrived.
+  void appendLost(std::uint32_t rows);
+  // Makes the rows longer or shorter; the bands that are there must decode to rows of that length.
+  void setRowBytes(std::size_t rowBytes) { rowBytes_ = rowBytes; }
 
   [[nodiscard]] std::size_t rowBytes() const { return rowBytes_; }
   [[nodiscard]] std::uint32_t rows() const { return rows_; }
@@ -38,8 +46,15 @@ class StoredPlane {
   [[nodiscard]] std::vector<std::uint8_t> rowsOfBand(std::size_t band) const;
 
  private:
+  void add(std::uint32_t rows, std::vector<std::uint8_t> data);
+
   std::size_t rowBytes_ = 0;
+  std::uint32_t toldRows_ = 0;
   std::uint32_t rows_ = 0;
+  std::uint64_t arrivedRows_ = 0;    // of bands with data
+  std::uint64_t lostBeyond_ = 0;     // lost rows beyond the told ones that count
+  std::vector<std::uint32_t> held_;  // rows of each lost band that is held back
+  std::uint64_t heldRows_ = 0;
   std::vector<Band> bands_;
 };
 

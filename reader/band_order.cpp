@@ -3,6 +3,7 @@
 
 #include "reader/band_order.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace gdi::reader {
@@ -33,6 +34,14 @@ std::optional<Ink> nextInWriterOrder(const BandCounts& arrived, std::uint32_t ba
     }
   }
   return std::nullopt;
+}
+
+BandCounts bandsOfSteps(std::uint32_t steps, std::uint32_t bandsPerPlane) {
+  BandCounts sent{};
+  for (const auto& [ink, lag] : kStep) {
+    sent[indexOf(ink)] = steps > lag ? std::min(steps - lag, bandsPerPlane) : 0;
+  }
+  return sent;
 }
 
 }  // namespace gdi::reader

@@ -19,4 +19,7 @@ using BandCounts = std::array<std::uint32_t, kInkCount>;
 // that have arrived did so in the writer's order; nothing when they did not or all are there.
 std::optional<Ink> nextInWriterOrder(const BandCounts& arrived, std::uint32_t bandsPerPlane);
 
+// The bands of each plane that the first `steps` steps of such a page send.
+BandCounts bandsOfSteps(std::uint32_t steps, std::uint32_t bandsPerPlane);
+
 }  // namespace gdi::reader

@@ -47,7 +47,7 @@ struct PageRecord {
   std::uint8_t mediaSize = 0;
   std::uint8_t inputTray = 0;
   std::uint8_t paperType = 0;
-  std::uint16_t rowBits = 0;        // padded bits a plane row
+  std::uint16_t rowBits = 0;        // the low 16 bits of a row's bits, padding included
   std::uint16_t rowsModulo64K = 0;  // the low 16 bits of the page's rows
   std::uint8_t channels = 0;        // 1 = black only, 4 = colour
   std::uint16_t number = 0;         // from 0

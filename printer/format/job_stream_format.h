@@ -51,8 +51,7 @@ inline constexpr std::size_t kLength = 64;
 inline constexpr std::size_t kMediaSizeOffset = 8;
 inline constexpr std::size_t kInputTrayOffset = 9;
 inline constexpr std::size_t kPaperTypeOffset = 10;
-inline constexpr std::size_t kZeroOptionOffset = 11;
-inline constexpr std::size_t kRowBitsOffset = 12;  // 16 bits, padded bits a plane row
+inline constexpr std::size_t kRowBitsOffset = 12;  // 16 bits, the low ones of a row's bits
 inline constexpr std::size_t kRowsOffset = 14;     // 16 bits
 inline constexpr std::size_t kChannelsOffset = 32;
 inline constexpr std::size_t kConstant1Offset = 33;
@@ -82,6 +81,12 @@ inline constexpr std::size_t kBlankPageOffset = 30;
 
 // End-of-job mark: a tag without fields.
 inline constexpr Tag kEndOfJobTag{'J', 'I', 'D', 'G'};
+
+// A row is its pixels and at least so much slack, brought up to a multiple; bits.
+inline constexpr std::uint32_t kRowSlackBits = 32;
+inline constexpr std::uint32_t kRowBitsMultiple = 128;
+// The longest row that is sent, bits.
+inline constexpr std::uint32_t kMaxRowBits = 8 * 28672;
 
 // Rows a band, but for a page's last; a plane's bands trail black's by these many bands.
 inline constexpr std::uint32_t kBandHeight = 256;

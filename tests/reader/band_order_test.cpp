@@ -36,6 +36,15 @@ TEST(BandOrder, CyanTrailsBlackBySixBands) {
   EXPECT_EQ(order.back(), "Y27");
 }
 
+TEST(BandOrder, StepsSendBlackAtOnceAndTheOtherPlanesBehindTheirLags) {
+  // Indexed cyan, magenta, yellow, black.
+  EXPECT_EQ(bandsOfSteps(0, 28), (BandCounts{0, 0, 0, 0}));
+  EXPECT_EQ(bandsOfSteps(6, 28), (BandCounts{0, 0, 0, 6}));
+  EXPECT_EQ(bandsOfSteps(20, 28), (BandCounts{14, 8, 2, 20}));
+  EXPECT_EQ(bandsOfSteps(45, 28), (BandCounts{28, 28, 27, 28}));
+  EXPECT_EQ(bandsOfSteps(46, 28), (BandCounts{28, 28, 28, 28}));
+}
+
 TEST(BandOrder, StepEighteenSendsABandOfEveryPlane) {
   const std::vector<std::string> order = orderOf(28);
   const auto black = std::find(order.begin(), order.end(), "K18");

@@ -168,7 +168,7 @@ TEST(BrokenJob, AColouredBandOnABlackPageIsLeftOut) {
 }
 
 TEST(BrokenJob, APageRecordThatMakesNoSenseLeavesItsBandsOut) {
-  for (const std::uint16_t rowBits : std::initializer_list<std::uint16_t>{0, 127, 65535}) {
+  for (const std::uint16_t rowBits : std::initializer_list<std::uint16_t>{1, 127, 65535}) {
     JobBuilder job = headers();
     job.pageRecord({.rowBits = rowBits, .rows = 65535})
         .band(Ink::kBlack, kFirst | kLast, solidRows(1, 16, 1))
@@ -203,6 +203,34 @@ TEST(BrokenJob, TroublesOfAPageAreToldUpToALimit) {
   const ReadJob read = readAll(job.end().bytes());
   ASSERT_EQ(read.troubles.size(), JobReader::kMostTroubles + 1);
   EXPECT_EQ(read.troubles.back().text, "there is more that is not told");
+}
+
+TEST(BrokenJob, TheLimitHoldsForEachPageAndTheStreamsEndIsAlwaysTold) {
+  JobBuilder job = headers();
+  for (int page = 0; page < 2; ++page) {
+    job.pageRecord({.rowBits = 127});  // one trouble
+    job.pageRecord({});
+    for (int i = 0; i < 1000; ++i) {
+      job.band({.rows = 0}, Bytes(16));
+    }
+  }
+  const ReadJob read = readAll(job.bytes());  // no end-of-job mark
+  const std::size_t most = JobReader::kMostTroubles;
+  ASSERT_EQ(read.troubles.size(), 2 * (1 + most + 1) + 1);
+  EXPECT_EQ(read.troubles[1 + most].text, "there is more that is not told");
+  EXPECT_EQ(read.troubles[2 * (1 + most + 1) - 1].text, "there is more that is not told");
+  EXPECT_EQ(read.troubles.back().text, "the stream ends without the end-of-job mark (JIDG)");
+}
+
+TEST(BrokenJob, BandsWithoutDataDoNotMakeAPageLongerThanItIsTold) {
+  JobBuilder job = headers();
+  job.pageRecord({.rows = 600}).band(Ink::kBlack, kFirst, solidRows(256, 16, 1));
+  for (int i = 0; i < 1000; ++i) {
+    job.bandRecord({.rows = 256}, 0);
+  }
+  const ReadJob read = readAll(job.end().bytes());
+  EXPECT_EQ(read.pages.at(0).rows(), 512U);
+  EXPECT_EQ(read.pages.at(0).bandCount, 1001U);
 }
 
 // Every byte of a job is set to a few values in turn; the sanitizers watch.

@@ -17,10 +17,10 @@ using reader::Page;
 // A page whose rows are 128 bits: 96 pixels of 1 bit, 48 of 2 or 24 of 4.
 Page pageWith(unsigned bitsPerPixel, std::uint8_t channels) {
   Page page;
-  page.record.rowBits = 128;
+  page.rowBits = 128;
   page.record.channels = channels;
   page.bitsPerPixel = bitsPerPixel;
-  page.planes.fill(reader::StoredPlane(16));
+  page.planes.fill(reader::StoredPlane(16, 0));
   return page;
 }
 

@@ -10,24 +10,18 @@
 namespace gdi::reader {
 namespace {
 
-Page pageOf(std::uint16_t rowBits, unsigned bitsPerPixel, std::uint32_t widthMicrometres) {
+Page pageOf(std::uint32_t rowBits, unsigned bitsPerPixel, std::uint32_t widthMicrometres) {
   Page page;
-  page.record.rowBits = rowBits;
+  page.rowBits = rowBits;
   page.record.widthMicrometres = widthMicrometres;
   page.bitsPerPixel = bitsPerPixel;
   return page;
 }
 
-TEST(Page, RowsArePaddedByAtLeast32BitsTo128) {
-  EXPECT_EQ(paddedRowBits(4961, 1), 5120U);
-  EXPECT_EQ(paddedRowBits(4961, 4), 19968U);
-  EXPECT_EQ(paddedRowBits(96, 1), 128U);
-  EXPECT_EQ(paddedRowBits(97, 1), 256U);
-}
-
 TEST(Page, ItsWidthIsThatOfThePaper) {
   EXPECT_EQ(pageOf(4992, 1, 209902).widthPixels(), 4958U);   // A4
   EXPECT_EQ(pageOf(10240, 2, 215900).widthPixels(), 5100U);  // Letter
+  EXPECT_EQ(pageOf(68096, 4, 719667).widthPixels(), 17000U);
 }
 
 TEST(Page, ItsWidthIsNoLessThanItsRowsPaddingAllows) {
@@ -54,7 +48,7 @@ TEST(Page, ARowTooShortForItsPaddingHasNoPixels) {
 }
 
 TEST(StoredPlane, ACursorGivesTheRowsOfAllBandsAndThenNone) {
-  StoredPlane plane(16);
+  StoredPlane plane(16, 3);
   plane.append(2, jobtest::literalBand(jobtest::solidRows(2, 16, 0xAA), false));
   plane.append(1, jobtest::literalBand(jobtest::solidRows(1, 16, 0x55), false));
   EXPECT_EQ(plane.rows(), 3U);
@@ -68,9 +62,41 @@ TEST(StoredPlane, ACursorGivesTheRowsOfAllBandsAndThenNone) {
 }
 
 TEST(StoredPlane, ALostBandIsBlank) {
-  StoredPlane plane(16);
-  plane.append(3, {});
+  StoredPlane plane(16, 3);
+  plane.appendLost(3);
   EXPECT_EQ(plane.rowsOfBand(0), jobtest::Bytes(48));
+}
+
+TEST(StoredPlane, LostBandsCountUpToTheRowsThatThePageIsToldToHave) {
+  StoredPlane plane(16, 300);
+  plane.appendLost(256);
+  plane.appendLost(44);
+  EXPECT_EQ(plane.rows(), 300U);
+  plane.appendLost(1);
+  EXPECT_EQ(plane.rows(), 300U);
+}
+
+TEST(StoredPlane, ALostBandBeyondTheToldRowsKeepsItsPlaceWhenABandFollows) {
+  const jobtest::Bytes band = jobtest::literalBand(jobtest::solidRows(256, 16, 0xAA), false);
+  StoredPlane plane(16, 256);  // 65,792 rows are told so
+  plane.append(256, band);
+  plane.appendLost(256);
+  EXPECT_EQ(plane.rows(), 256U);
+  plane.append(256, band);
+  ASSERT_EQ(plane.bands().size(), 3U);
+  EXPECT_EQ(plane.bands()[2].firstRow, 512U);
+  EXPECT_EQ(plane.rowsOfBand(1), jobtest::Bytes(4096));
+}
+
+TEST(StoredPlane, LostRowsBeyondTheToldOnesAreNoMoreThanThoseThatArrived) {
+  const jobtest::Bytes row = jobtest::literalBand(jobtest::solidRows(1, 16, 0xAA), false);
+  StoredPlane plane(16, 0);
+  for (int i = 0; i < 1000; ++i) {
+    plane.appendLost(256);
+    plane.append(1, row);
+  }
+  EXPECT_LE(plane.rows(), 2000U);
+  EXPECT_GE(plane.rows(), 1000U);
 }
 
 TEST(StoredPlane, MoreRowsThanABandHasWordsAreNotEvenTried) {

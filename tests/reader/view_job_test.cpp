@@ -97,10 +97,10 @@ TEST_F(ViewJob, EveryPageIsAPictureAndALine) {
   EXPECT_EQ(troubles_.str(), "");
   // 9 words, 9 words and the trailer's 4 make 22 and are padded to 24; 9 words to 16 bytes' 16.
   EXPECT_EQ(pages_.str(),
-            "page 1: 1 plane (K), 2 rows of 128 bits, 96 pixels of 1 bit, 1 bands, 64 compressed "
+            "page 1: 1 plane (K), 2 rows of 128 bits, 96 pixels of 1 bit, 1 band, 64 compressed "
             "bytes: " +
                 (options_.folder / "page-1.png").string() +
-                "\npage 2: 4 planes (CMYK), 1 rows of 128 bits, 96 pixels of 1 bit, 4 bands, 128 "
+                "\npage 2: 4 planes (CMYK), 1 row of 128 bits, 96 pixels of 1 bit, 4 bands, 128 "
                 "compressed bytes: " +
                 (options_.folder / "page-2.png").string() + "\n");
   const Picture mono = picture(1);
@@ -146,6 +146,29 @@ TEST_F(ViewJob, ATroubleIsOneLineWithItsOffsetAndTheOtherPagesAreStillWritten) {
   EXPECT_EQ(troubles_.str(), "gdiview: JOB: offset " + std::to_string(job.size()) +
                                  ": the stream ends without the end-of-job mark (JIDG)\n");
   EXPECT_EQ(picture(1).width, 96U);
+  EXPECT_EQ(picture(2).width, 96U);
+}
+
+TEST_F(ViewJob, ANoteIsToldAndLeavesTheStatusAt0) {
+  JobBuilder job;
+  job.jobRecord(1).hostRecord();
+  const std::size_t page = job.size();
+  job.pageRecord({.rows = 257});
+  job.band(Ink::kBlack, kFirst, jobtest::solidRows(256, 16, 0xFF)).end();
+  EXPECT_EQ(view(job), 0);
+  EXPECT_EQ(troubles_.str().find("gdiview: JOB: offset " + std::to_string(page) + ": note: "), 0U);
+  EXPECT_EQ(picture(1).height, 256U);
+}
+
+TEST_F(ViewJob, LinesAboutPagesThatCannotBeWrittenAreAFailure) {
+  std::ofstream full("/dev/full");
+  if (!full) {
+    GTEST_SKIP() << "there is no /dev/full";
+  }
+  std::istringstream input = twoPages().stream();
+  EXPECT_EQ(viewJob(input, "JOB", options_, full, troubles_), 1);
+  EXPECT_EQ(troubles_.str(),
+            "gdiview: the lines about pages cannot be written: No space left on device\n");
   EXPECT_EQ(picture(2).width, 96U);
 }
 

@@ -39,11 +39,21 @@ bool writePicture(const reader::Page& page, std::uint32_t reduction,
   return file->finish();
 }
 
+// "1 row", "2 rows".
+std::string counted(std::uint32_t count, const char* what) {
+  return std::to_string(count) + " " + what + (count == 1 ? "" : "s");
+}
+
 void describe(const reader::Page& page, std::uint32_t number, std::ostream& out) {
   out << "page " << number << ": " << (page.isColor() ? "4 planes (CMYK)" : "1 plane (K)") << ", "
-      << page.rows() << " rows of " << page.record.rowBits << " bits, " << page.widthPixels()
-      << " pixels of " << page.bitsPerPixel << (page.bitsPerPixel == 1 ? " bit, " : " bits, ")
-      << page.bandCount << " bands, " << page.compressedBytes << " compressed bytes";
+      << counted(page.rows(), "row") << " of " << counted(page.rowBits, "bit") << ", "
+      << counted(page.widthPixels(), "pixel") << " of " << counted(page.bitsPerPixel, "bit") << ", "
+      << counted(page.bandCount, "band") << ", " << page.compressedBytes << " compressed bytes";
+}
+
+void tell(const reader::Trouble& trouble, const std::string& jobName, std::ostream& out) {
+  out << "gdiview: " << jobName << ": offset " << trouble.offset << ": "
+      << (trouble.note ? "note: " : "") << trouble.text << '\n';
 }
 
 }  // namespace
@@ -63,9 +73,8 @@ int viewJob(std::istream& input, const std::string& jobName, const ViewOptions& 
     const std::optional<reader::Page> page = job.nextPage();
     more = page.has_value();
     for (const reader::Trouble& trouble : job.takeTroubles()) {
-      troubles << "gdiview: " << jobName << ": offset " << trouble.offset << ": " << trouble.text
-               << '\n';
-      status = 1;
+      tell(trouble, jobName, troubles);
+      status = trouble.note ? status : 1;
     }
     number += more ? 1 : 0;
     if (!more || (options.page && *options.page != number)) {
@@ -89,6 +98,12 @@ int viewJob(std::istream& input, const std::string& jobName, const ViewOptions& 
   if (options.page && *options.page > number) {
     troubles << "gdiview: " << jobName << ": there is no page " << *options.page << "; the job has "
              << number << '\n';
+    status = 1;
+  }
+  errno = 0;
+  if (!pages.flush()) {
+    troubles << "gdiview: the lines about pages cannot be written: "
+             << std::generic_category().message(errno == 0 ? EIO : errno) << '\n';
     status = 1;
   }
   return status;

@@ -20,8 +20,10 @@ struct ViewOptions {
 };
 
 // Reads the job from `input`, called `jobName` in messages. Lines about pages go to `pages`, lines
-// about troubles, "gdiview: JOB: offset N: ...", to `troubles`.
-// Answers the exit status: 0 when the whole job was sound and every picture was written, else 1.
+// about troubles, "gdiview: JOB: offset N: ...", to `troubles`. A note among them begins with
+// "note: " behind its offset and does not count.
+// Answers the exit status: 0 when the whole job was sound and all pictures and lines about pages
+// were written, else 1.
 int viewJob(std::istream& input, const std::string& jobName, const ViewOptions& options,
             std::ostream& pages, std::ostream& troubles);
 

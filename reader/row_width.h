@@ -1,0 +1,26 @@
+// SPDX-FileCopyrightText: 2026 The rasterToGDI authors
+// SPDX-License-Identifier: Apache-2.0
+
+// How many bits a row has, of which the records tell the low 16 alone.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+
+#include "reader/records.h"
+
+namespace gdi::reader {
+
+inline constexpr std::uint32_t kPixelsPerInch = 600;
+
+// The paper's width in pixels, to the nearest; 0 when the page record tells none.
+std::uint64_t pixelsOnPaper(const PageRecord& record);
+
+// Of the lengths with the page record's low 16 bits, 1 to kMaxRowBits, the one that is nearest to
+// the paper's width; the shortest when the paper is of no width or wider than any row.
+std::uint32_t likelyRowBits(const PageRecord& record, unsigned bitsPerPixel);
+
+// The next longer row with the same low 16 bits; nothing when that were longer than kMaxRowBits.
+std::optional<std::uint32_t> nextLongerRow(std::uint32_t rowBits);
+
+}  // namespace gdi::reader
