@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The rasterToGDI authors
+# SPDX-License-Identifier: Apache-2.0
+
 # How every target of the project is built, and one function per kind of target.
 
 find_package(PkgConfig REQUIRED)

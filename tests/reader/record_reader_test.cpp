@@ -51,7 +51,7 @@ TEST(RecordReader, GivesTheRecordsInTheirOrder) {
 }
 
 TEST(RecordReader, PassesOverAPrologueOfAnyLength) {
-  for (const std::size_t length : {0, 1, 7, 8, 9, 100'000}) {
+  for (const std::size_t length : std::initializer_list<std::size_t>{0, 1, 7, 8, 9, 100'000}) {
     JobBuilder job;
     job.text(std::string(length, 'G')).jobRecord(2).hostRecord().end();
     std::istringstream input = job.stream();
@@ -134,7 +134,7 @@ TEST(RecordReader, BytesBehindTheEndMarkAreTrouble) {
 }
 
 TEST(RecordReader, ALyingRecordLengthIsTrouble) {
-  for (const std::size_t record : {0, 120, 272}) {
+  for (const std::size_t record : std::initializer_list<std::size_t>{0, 120, 272}) {
     JobBuilder job = headers();
     job.pageRecord({}).end();
     job.bytes()[record + 7] ^= 1;
