@@ -34,15 +34,18 @@ std::unique_ptr<RasterBandBuffer> RasterBandBuffer::initWithPixelHeight(int pixe
       "RasterBandBuffer initWithPixelHeight: height: %d, rowBytes: %d, bandHeight: %d, path: %s",
       pixelHeight, rowBytes, bandHeight, path);
   const std::int64_t fileSize = std::int64_t{pixelHeight} * rowBytes;
+  int totalBands = 0;
+  if (bandHeight >= 1) {
+    totalBands = static_cast<int>((std::int64_t{pixelHeight} + bandHeight - 1) / bandHeight);
+    // A size beyond 32 bits is shown as its low 32 bits; it is refused below.
+    CPSDebugLog("RasterBandBuffer initWithPixelHeight: totalBands: %d, fileSize: %d", totalBands,
+                static_cast<int>(fileSize));
+  }
   if (pixelHeight < 0 || rowBytes < 0 || bandHeight < 1 ||
       fileSize > std::numeric_limits<std::int32_t>::max()) {
     CPSDebugLog("RasterBandBuffer initWithPixelHeight: numbers out of range");
     return nullptr;
   }
-  const auto totalBands =
-      static_cast<int>((std::int64_t{pixelHeight} + bandHeight - 1) / bandHeight);
-  CPSDebugLog("RasterBandBuffer initWithPixelHeight: totalBands: %d, fileSize: %d", totalBands,
-              static_cast<int>(fileSize));
   auto mapFile = mmapFile::initWithFile(path, static_cast<std::uint32_t>(fileSize));
   if (mapFile == nullptr) {
     return nullptr;
@@ -85,6 +88,8 @@ void RasterBandBuffer::endOnBadLine(int line, std::int64_t offset) const {
               logged(last));
   CPSDebugLog("flipped: 0x%8.8x, rowBytes: %s, pixelHeight: %d, lineNumber: %d", logged(address),
               yesOrNo(flipped_), rowBytes_, pixelHeight_);
+  // exit runs no destructors, so the page's scratch files stay behind. The page loop cannot come
+  // here: it asks for lines 0 to pixelHeight - 1 only, and its rows are never empty.
   std::exit(1);
 }
 
@@ -124,6 +129,7 @@ int RasterBandBuffer::bandHeightForIndex(int index) const {
 
 void RasterBandBuffer::setFlipped(bool flipped) {
   flipped_ = flipped;
+  // On false the count stays: docs/quirks.md, "Taking the flip back".
   if (flipped_) {
     rasterCount_ = pixelHeight_;
   }

@@ -208,6 +208,36 @@ TEST_F(BandBuffer, NumbersOutOfRangeAreRefusedWithoutAFile) {
   EXPECT_FALSE(std::filesystem::exists(scratch_));
 }
 
+TEST_F(BandBuffer, NumbersOutOfRangeAreLoggedWithTheLow32BitsOfTheSize) {
+  // 32,768 x 65,536 is 2^31, 65,536 x 65,537 is 2^32 + 65,536.
+  EXPECT_EQ(make(32768, 65536, 256), nullptr);
+  EXPECT_EQ(make(65536, 65537, 256), nullptr);
+  EXPECT_EQ(make(-300, 16, 256), nullptr);
+  const std::string start = "RasterBandBuffer initWithPixelHeight: ";
+  const std::string path = ", path: " + scratch_.string();
+  EXPECT_EQ(messages(), (std::vector<std::string>{
+                            start + "height: 32768, rowBytes: 65536, bandHeight: 256" + path,
+                            start + "totalBands: 128, fileSize: -2147483648",
+                            start + "numbers out of range",
+                            start + "height: 65536, rowBytes: 65537, bandHeight: 256" + path,
+                            start + "totalBands: 256, fileSize: 65536",
+                            start + "numbers out of range",
+                            start + "height: -300, rowBytes: 16, bandHeight: 256" + path,
+                            start + "totalBands: 0, fileSize: -4800",
+                            start + "numbers out of range",
+                        }));
+}
+
+TEST_F(BandBuffer, WithoutABandHeightNoBandsAreCounted) {
+  EXPECT_EQ(make(100, 16, 0), nullptr);
+  const std::string start = "RasterBandBuffer initWithPixelHeight: ";
+  EXPECT_EQ(messages(),
+            (std::vector<std::string>{
+                start + "height: 100, rowBytes: 16, bandHeight: 0, path: " + scratch_.string(),
+                start + "numbers out of range",
+            }));
+}
+
 TEST_F(BandBuffer, AFileAboveTheLargestSizeIsRefused) {
   EXPECT_EQ(make(400'000'001, 1, 256), nullptr);
   EXPECT_FALSE(std::filesystem::exists(scratch_));

@@ -135,6 +135,21 @@ TEST(BundledScreens, TheFolderHoldsTheNamedFilesAndNoOthers) {
   EXPECT_LT(size, 4000000U);
 }
 
+TEST(BundledScreens, TheBundleHoldsItsListsScreensAndLanguagesAndNothingElse) {
+  std::set<std::string> others;
+  std::size_t languages = 0;
+  for (const auto& entry : std::filesystem::directory_iterator(GDI_BUNDLE)) {
+    const std::string name = entry.path().filename().string();
+    if (entry.is_directory() && name.ends_with(".lproj")) {
+      ++languages;
+    } else {
+      others.insert(name);
+    }
+  }
+  EXPECT_EQ(others, (std::set<std::string>{"Info.plist", "ScreenSets.plist", "Screens"}));
+  EXPECT_GE(languages, 1U);
+}
+
 void checkScreen(const std::string& name, int depth) {
   const std::optional<Screen> screen = readScreen(name);
   ASSERT_TRUE(screen.has_value());

@@ -7,6 +7,8 @@
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
+#include <iterator>
+#include <map>
 #include <string>
 
 #include <gtest/gtest.h>
@@ -64,6 +66,35 @@ TEST_F(MakeScreens, WritesTheListAndEveryScreen) {
             12U + 28 * 14 * 32);
   EXPECT_TRUE(std::filesystem::exists(folder_ / "out/Screens/plain-Fast-mono"));
   EXPECT_TRUE(std::filesystem::exists(folder_ / "out/ScreenSets.plist"));
+}
+
+// The contents of the list of screens and of every screen, by name.
+std::map<std::string, std::string> screensIn(const std::filesystem::path& folder) {
+  std::map<std::string, std::string> contents;
+  const auto read = [&contents](const std::filesystem::path& path) {
+    std::ifstream file(path, std::ios::binary);
+    EXPECT_TRUE(file.is_open()) << path;
+    contents[path.filename().string()] = {std::istreambuf_iterator<char>(file), {}};
+  };
+  read(folder / "ScreenSets.plist");
+  for (const auto& entry : std::filesystem::directory_iterator(folder / "Screens")) {
+    read(entry.path());
+  }
+  return contents;
+}
+
+TEST_F(MakeScreens, MakesTheBundlesScreensAgainToTheByte) {
+  const std::string fresh = (folder_ / "fresh").string();
+  ASSERT_EQ(run(std::string(GDI_PARAMETERS) + ' ' + fresh), 0) << error_;
+  const std::map<std::string, std::string> made = screensIn(fresh);
+  const std::map<std::string, std::string> bundled = screensIn(GDI_BUNDLE);
+  EXPECT_EQ(made.size(), 46U);  // the list; 3 classes x 3 qualities x 5 planes
+  EXPECT_EQ(made.size(), bundled.size());
+  for (const auto& [name, contents] : made) {
+    const auto twin = bundled.find(name);
+    ASSERT_NE(twin, bundled.end()) << name;
+    EXPECT_TRUE(contents == twin->second) << name;
+  }
 }
 
 TEST_F(MakeScreens, RefusesBadParametersWithFileAndLine) {
