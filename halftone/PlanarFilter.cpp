@@ -26,7 +26,7 @@ const char* colorModeWord(std::uint32_t channels) {
   if (channels == 1) {
     return "Mono";
   }
-  return channels == 4 ? "Color" : "";
+  return channels == kColorChannels ? "Color" : "";
 }
 
 bool exitStartPage(bool result) {

@@ -29,7 +29,7 @@ class PlanarFilter : public RasterFilter {
   bool endPage(std::uint32_t page) override;
 
  protected:
-  static constexpr std::uint32_t kMaxChannels = 4;
+  static constexpr std::uint32_t kMaxChannels = kColorChannels;
 
   // The system version, 0x1040 for 10.4.0; 0, with an assertion in the log, when it is not known.
   static std::int32_t systemVersion();

@@ -56,7 +56,7 @@ bool GDIFilter::startPage(std::uint32_t page) {
     // The job record's colour flag is read before this page's channel count is set:
     // docs/quirks.md, "The job record never says colour".
     result = sentJobHeaders || sendJobHeaders();
-    result = PlanarFilter::startPage(page) && result && sendPageRecord(page);
+    result = startPlanes(page) && result && sendPageRecord(page);
   }
   CPSDebugLog("GDIFilter startPage: exiting - result: %d", result ? 1 : 0);
   return result;
@@ -107,11 +107,17 @@ bool GDIFilter::allocBandBuffers() {
   const std::uint32_t bandRows = std::min(ditherBandHeight, cupsPageHeader.cupsHeight);
   const std::uint64_t size = std::max(std::uint64_t{ditherRowBytes} * cupsPageHeader.cupsHeight,
                                       worstCaseBandBytes(bandRows, ditherRowBytes));
-  // A width whose bits do not fit 32 bits leaves a row that is too short for its pixels.
-  const bool rowTooShort = std::uint64_t{ditherBPP} * cupsPageHeader.cupsWidth > ditherBitWidth;
-  if (rowTooShort || ditherRowBytes > kSeedBufferBytes ||
-      size > std::numeric_limits<std::uint32_t>::max()) {
-    (void)std::fprintf(stderr, "ERROR: a page of %u x %u pixels is too large to print\n",
+  if (!rowFitsPrinter()) {
+    (void)std::fprintf(stderr,
+                       "ERROR: rows of %u pixels at %u bits a pixel are wider than the printer "
+                       "takes (%u bytes); choose a lower quality or smaller paper\n",
+                       cupsPageHeader.cupsWidth, ditherBPP, kSeedBufferBytes);
+    return false;
+  }
+  if (size > std::numeric_limits<std::uint32_t>::max()) {
+    (void)std::fprintf(stderr,
+                       "ERROR: a page of %u x %u pixels is too large; choose a lower quality or "
+                       "smaller paper\n",
                        cupsPageHeader.cupsWidth, cupsPageHeader.cupsHeight);
     return false;
   }
@@ -122,6 +128,23 @@ bool GDIFilter::allocBandBuffers() {
     return false;
   }
   return true;
+}
+
+// A width whose bits do not fit 32 bits leaves a row that is too short for its pixels.
+bool GDIFilter::rowFitsPrinter() const {
+  const bool rowTooShort = std::uint64_t{ditherBPP} * cupsPageHeader.cupsWidth > ditherBitWidth;
+  return !rowTooShort && ditherRowBytes <= kSeedBufferBytes;
+}
+
+bool GDIFilter::startPlanes(std::uint32_t page) {
+  const bool result = PlanarFilter::startPage(page);
+  if (!result && channelCount != 1 && channelCount != kColorChannels) {
+    (void)std::fprintf(stderr,
+                       "ERROR: a page of %u channels cannot be printed: the raster must be black "
+                       "(1) or CMYK (4)\n",
+                       channelCount);
+  }
+  return result;
 }
 
 // Sent once a job, whether or not the writes succeed.

@@ -32,11 +32,21 @@ class GDIFilter : public PlanarFilter {
   // Adds the blank back side of an odd-sided duplex job, then the end-of-job mark.
   bool endJob() override;
 
+ protected:
+  // Compresses a band into the compression buffer and answers as qbx_Compress_PC4SC4 does; a test
+  // may bring its own.
+  virtual std::uint32_t compress(const std::uint8_t* band, std::uint32_t byteCount, bool lastBand);
+  // Runs the band steps that are left of a page; none, and true, when it has neither 1 nor 4
+  // channels. requires: a started page
+  bool sendBandsLeft();
+
  private:
   // GDIFilter.cpp: page set-up
   void orientPage(std::uint32_t page);
   void setPlaneGeometry();
   bool allocBandBuffers();
+  [[nodiscard]] bool rowFitsPrinter() const;
+  bool startPlanes(std::uint32_t page);
   bool sendJobHeaders();
   bool sendPageRecord(std::uint32_t page);
   void setPageOptions(PageRecordFields& record) const;
@@ -59,10 +69,10 @@ class GDIFilter : public PlanarFilter {
   bool reportFailedWrite();
 
   bool sentJobHeaders = false;        // job and host record were attempted for this job
-  int cBandIndex = 0;                 // next band of each plane; below 0 while it lags
-  int mBandIndex = 0;                 //
-  int yBandIndex = 0;                 //
-  int kBandIndex = 0;                 //
+  int cBandIndex = 0;                 // next cyan band; below 0 while it lags behind black
+  int mBandIndex = 0;                 // next magenta band, as above
+  int yBandIndex = 0;                 // next yellow band, as above
+  int kBandIndex = 0;                 // next black band
   ZeroedBuffer seedBuffer;            // scratch row of the band compressor
   ZeroedBuffer compressionBuffer;     // one compressed band
   std::uint32_t compressionSize = 0;  // bytes of compressionBuffer

@@ -49,7 +49,6 @@ bool GDIFilter::sendBand() {
       cancelled()) {
     return false;
   }
-  constexpr std::uint32_t kColorChannels = 4;
   if (channelCount != kColorChannels) {
     return true;
   }
@@ -84,14 +83,18 @@ bool GDIFilter::sendPlaneBand(Plane plane, int& bandIndex, bool lastBand) {
 // The compressed length; 0, with an assertion in the log, when the band could not be compressed.
 std::uint32_t GDIFilter::compressBand(RasterBandBuffer& buffer, int bandIndex, bool lastBand) {
   const auto rows = static_cast<std::uint32_t>(buffer.bandHeightForIndex(bandIndex));
-  const std::uint32_t length =
-      qbx_Compress_PC4SC4(buffer.band(bandIndex), rows * ditherRowBytes, compressionBuffer.data(),
-                          compressionSize, ditherRowBytes, seedBuffer.data(), lastBand);
+  const std::uint32_t length = compress(buffer.band(bandIndex), rows * ditherRowBytes, lastBand);
   if (length == 0 || length == kCompressionOverflow) {
     CPSDebugAssert_("GDIFilter sendRaster: qbx_Compress failed");
     return 0;
   }
   return length;
+}
+
+std::uint32_t GDIFilter::compress(const std::uint8_t* band, std::uint32_t byteCount,
+                                  bool lastBand) {
+  return qbx_Compress_PC4SC4(band, byteCount, compressionBuffer.data(), compressionSize,
+                             ditherRowBytes, seedBuffer.data(), lastBand);
 }
 
 bool GDIFilter::sendRaster() {
@@ -104,6 +107,14 @@ bool GDIFilter::sendRaster() {
     return sendBand();
   }
   if (rasterLineNumber + 1 != cupsPageHeader.cupsHeight) {
+    return true;
+  }
+  return sendBandsLeft();
+}
+
+// Black-only and colour pages alone have a plane whose index the steps bring to the page's end.
+bool GDIFilter::sendBandsLeft() {
+  if (channelCount != 1 && channelCount != kColorChannels) {
     return true;
   }
   const int& lastPlaneIndex = channelCount == 1 ? kBandIndex : yBandIndex;

@@ -81,7 +81,6 @@ bool RasterFilter::sendLines() {
 }
 
 void RasterFilter::mirrorRaster() {
-  constexpr std::uint32_t kColorChannels = 4;
   if (channelCount == kColorChannels) {
     mirrorRaster32(rasterLine());
   } else if (channelCount == 1) {

@@ -20,6 +20,10 @@
 
 namespace gdi {
 
+// Bytes a pixel of a colour page, the most that a page may have: C, M, Y and K. A mono page has
+// one.
+inline constexpr std::uint32_t kColorChannels = 4;
+
 class RasterFilter : public CUPSFilter {
  public:
   // The whole job. True when every operation of every page and the job's end succeeded.

@@ -22,6 +22,10 @@ std::string sidesOption(int sides) {
   return "com.apple.print.PrintSettings.PMTotalSidesImaged..n.=" + std::to_string(sides) + " ";
 }
 
+void fillInk(std::uint32_t /*line*/, std::span<std::uint8_t> bytes) {
+  std::ranges::fill(bytes, std::uint8_t{255});
+}
+
 JobFilter::JobFilter(std::string options, std::vector<FakePage> pages)
     : options_(std::move(options)), pages_(std::move(pages)) {
 }
@@ -38,6 +42,13 @@ bool JobFilter::prepare() {
 
 std::unique_ptr<RasterStream> JobFilter::openRaster() {
   return std::make_unique<FakeRasterStream>(pages_);
+}
+
+std::uint32_t JobFilter::compress(const std::uint8_t* band, std::uint32_t byteCount,
+                                  bool lastBand) {
+  const std::size_t number = bands_++;
+  const auto answer = beforeBand ? beforeBand(number) : std::nullopt;
+  return answer ? *answer : GDIFilter::compress(band, byteCount, lastBand);
 }
 
 bool JobFilter::startPage(std::uint32_t page) {

@@ -29,6 +29,9 @@ inline const std::string kCollate = "com.apple.print.PrintSettings.PMCopyCollate
 std::string copiesOption(int copies);
 std::string sidesOption(int sides);
 
+// Fills a line with ink everywhere.
+void fillInk(std::uint32_t line, std::span<std::uint8_t> bytes);
+
 // The filter with a job handed to it, noting how each page was turned.
 class JobFilter : public GDIFilter {
  public:
@@ -45,6 +48,9 @@ class JobFilter : public GDIFilter {
   std::string title = "Report";
   // Asked before a page starts; its false is the page's.
   std::function<bool(std::uint32_t page)> beforePage;
+  // Asked before a band is compressed, with the number of bands compressed before it in the job; a
+  // length that it answers is taken for the compressor's.
+  std::function<std::optional<std::uint32_t>(std::size_t band)> beforeBand;
   // Notes of the job, one entry a page.
   std::vector<Turn> turns;
   std::vector<std::uint32_t> sides;
@@ -57,11 +63,13 @@ class JobFilter : public GDIFilter {
 
  protected:
   std::unique_ptr<RasterStream> openRaster() override;
+  std::uint32_t compress(const std::uint8_t* band, std::uint32_t byteCount, bool lastBand) override;
 
  private:
   std::string options_;
   std::vector<FakePage> pages_;
   std::array<const char*, 7> arguments_{};
+  std::size_t bands_ = 0;
 };
 
 // Standard output led to `descriptor` as long as this object exists. What it could not take is

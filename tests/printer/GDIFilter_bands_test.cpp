@@ -11,32 +11,12 @@
 namespace gdi::test {
 namespace {
 
-// The order of a colour page's bands: step s sends black s, cyan s-6, magenta s-12, yellow s-18.
-std::string colorOrder(int bands) {
-  std::string order;
-  for (int step = 0; step < bands + 18; ++step) {
-    int lag = 0;
-    for (const char plane : {'K', 'C', 'M', 'Y'}) {
-      if (const int band = step - lag; band >= 0 && band < bands) {
-        order.append(order.empty() ? "" : " ").append(1, plane).append(std::to_string(band));
-      }
-      lag += 6;
-    }
-  }
-  return order;
-}
-
 std::string blackOrder(int bands) {
   std::string order;
   for (int band = 0; band < bands; ++band) {
     order += (order.empty() ? "K" : " K") + std::to_string(band);
   }
   return order;
-}
-
-// Ink everywhere.
-void fillInk(std::uint32_t /*line*/, std::span<std::uint8_t> bytes) {
-  std::ranges::fill(bytes, std::uint8_t{255});
 }
 
 class Bands : public FilterJob {

@@ -25,6 +25,7 @@ class FillerPage : public FilterJob {
     }
     return numbers;
   }
+  [[nodiscard]] std::size_t pagesEnded() const { return logLines({"RasterFilter endPage"}).size(); }
 };
 
 TEST_F(FillerPage, OfThreeSidesAndThreePagesIsNumberedFour) {
@@ -101,12 +102,15 @@ TEST_F(FillerPage, IsLoggedAheadOfTheJobsEnd) {
   JobFilter filter = job(kLongEdge + sidesOption(3), 3);
   EXPECT_TRUE(run(filter));
   EXPECT_EQ(
-      logLines({"GDIFilter blankPage", "GDIFilter endJob", "GDIFilter startPage: page"}),
-      (std::vector<std::string>{"GDIFilter startPage: page 0", "GDIFilter startPage: page 1",
-                                "GDIFilter startPage: page 2", "GDIFilter blankPage: starting page",
-                                "GDIFilter startPage: page 4", "GDIFilter blankPage: ending page",
-                                "GDIFilter blankPage: complete",
-                                "GDIFilter endJob:", "GDIFilter endJob: sending JIDG"}));
+      logLines({"GDIFilter blankPage", "GDIFilter endJob", "GDIFilter startPage: page",
+                "RasterFilter endPage"}),
+      (std::vector<std::string>{
+          "GDIFilter startPage: page 0", "RasterFilter endPage: blankAccumulator = 0xff",
+          "GDIFilter startPage: page 1", "RasterFilter endPage: blankAccumulator = 0xff",
+          "GDIFilter startPage: page 2", "RasterFilter endPage: blankAccumulator = 0xff",
+          "GDIFilter blankPage: starting page", "GDIFilter startPage: page 4",
+          "GDIFilter blankPage: ending page", "RasterFilter endPage: blankAccumulator = 0x00",
+          "GDIFilter blankPage: complete", "GDIFilter endJob:", "GDIFilter endJob: sending JIDG"}));
 }
 
 TEST_F(FillerPage, ThatCannotStartEndsTheJobWithoutItsMark) {
@@ -119,6 +123,7 @@ TEST_F(FillerPage, ThatCannotStartEndsTheJobWithoutItsMark) {
                                       "ASSERT: GDIFilter blankPage: startPage failed",
                                       "GDIFilter blankPage: ending page",
                                       "GDIFilter blankPage: complete", "GDIFilter endJob:"}));
+  EXPECT_EQ(pagesEnded(), 3U);  // the filler page is not ended
 }
 
 TEST_F(FillerPage, WithoutALineBufferEndsTheJobWithoutItsMark) {
@@ -146,6 +151,7 @@ TEST_F(FillerPage, OfACancelledJobHasNoBandsAndTheJobNoMark) {
             (std::vector<std::string>{"GDIFilter blankPage: starting page",
                                       "GDIFilter blankPage: ending page",
                                       "GDIFilter blankPage: complete", "GDIFilter endJob:"}));
+  EXPECT_EQ(pagesEnded(), 3U);  // the filler page is not ended
 }
 
 TEST_F(FillerPage, StartsFromTheOrientationOfTheLastPage) {

@@ -170,6 +170,24 @@ TEST_F(JobFrame, HasNoRecordOfAPageThatCouldNotStart) {
   EXPECT_EQ(log_.count("GDIFilter startPage: exiting - result: 0"), 1U);
 }
 
+TEST_F(JobFrame, APageOfNeitherOneNorFourChannelsFailsWithTheReason) {
+  for (const std::uint32_t channels : {2U, 3U, 5U}) {
+    EXPECT_FALSE(run("", {{pageHeader(8, 1, channels), {}}}));
+    EXPECT_NE(errors_.find("ERROR: a page of " + std::to_string(channels) +
+                           " channels cannot be printed: the raster must be black (1) or CMYK "
+                           "(4)\n"),
+              std::string::npos)
+        << errors_;
+  }
+}
+
+TEST_F(JobFrame, APageThatFailsForAnotherReasonIsNotBlamedOnItsChannels) {
+  for (const std::uint32_t channels : {1U, 4U}) {
+    EXPECT_FALSE(run("Gradiation=Best", {{pageHeader(8, 1, channels), {}}}));
+    EXPECT_EQ(errors_.find("channels cannot be printed"), std::string::npos) << errors_;
+  }
+}
+
 TEST_F(JobFrame, LogsTheStepsOfAJobInOrder) {
   std::array<char, 256> host{};
   ASSERT_EQ(gethostname(host.data(), host.size() - 1), 0);
@@ -192,8 +210,10 @@ TEST_F(JobFrame, APageAsWideAsTheSeedRowPrints) {
 
 TEST_F(JobFrame, APageWiderThanTheSeedRowFailsWithoutARecord) {
   EXPECT_FALSE(run("", {{pageHeader(229345, 1, 1), {}}}));
-  EXPECT_NE(errors_.find("ERROR: a page of 229345 x 1 pixels is too large to print\n"),
-            std::string::npos)
+  EXPECT_NE(
+      errors_.find("ERROR: rows of 229345 pixels at 1 bits a pixel are wider than the printer "
+                   "takes (28672 bytes); choose a lower quality or smaller paper\n"),
+      std::string::npos)
       << errors_;
   EXPECT_EQ(std::string(stream_.begin(), stream_.end()), "PROLOGUE;JIDG");
 }
@@ -204,7 +224,8 @@ TEST_F(JobFrame, APageWhoseRowBitsDoNotFit32BitsFails) {
   testing::internal::CaptureStderr();
   EXPECT_FALSE(filter.startPageOf(pageHeader(0x40000008, 1, 1)));
   EXPECT_EQ(testing::internal::GetCapturedStderr(),
-            "ERROR: a page of 1073741832 x 1 pixels is too large to print\n");
+            "ERROR: rows of 1073741832 pixels at 4 bits a pixel are wider than the printer takes "
+            "(28672 bytes); choose a lower quality or smaller paper\n");
 }
 
 TEST_F(JobFrame, APageWhosePlaneIsBeyond32BitsFails) {
@@ -213,7 +234,8 @@ TEST_F(JobFrame, APageWhosePlaneIsBeyond32BitsFails) {
   testing::internal::CaptureStderr();
   EXPECT_FALSE(filter.startPageOf(pageHeader(8, 0xFFFFFFFF, 1)));
   EXPECT_EQ(testing::internal::GetCapturedStderr(),
-            "ERROR: a page of 8 x 4294967295 pixels is too large to print\n");
+            "ERROR: a page of 8 x 4294967295 pixels is too large; choose a lower quality or "
+            "smaller paper\n");
 }
 
 }  // namespace

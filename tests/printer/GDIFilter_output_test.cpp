@@ -6,10 +6,13 @@
 #include <array>
 #include <chrono>
 #include <csignal>
+#include <cstdio>
+#include <filesystem>
 #include <thread>
 
 #include <fcntl.h>
 #include <pthread.h>
+#include <sys/resource.h>
 #include <unistd.h>
 
 #include "filter/signals.h"
@@ -152,6 +155,105 @@ TEST_F(FailedWrite, IsReportedInTheLanguageOfTheSpooler) {
   const CancelAfterReports cancel(log_, 1);
   EXPECT_FALSE(runInto(fullDevice(), filter));
   EXPECT_GE(countOf(errors_, "ERROR: recoverable: Keine Verbindung zum Drucker\n"), 1U) << errors_;
+}
+
+// Standard output without a buffer, so that each record's write fails at the record.
+class UnbufferedOutput {
+ public:
+  UnbufferedOutput() {
+    (void)std::fflush(stdout);
+    (void)std::setvbuf(stdout, nullptr, _IONBF, 0);
+  }
+  ~UnbufferedOutput() {
+    static std::array<char, BUFSIZ> buffer;  // stdout outlives this object
+    (void)std::setvbuf(stdout, buffer.data(), _IOFBF, buffer.size());
+  }
+  UnbufferedOutput(const UnbufferedOutput&) = delete;
+  UnbufferedOutput& operator=(const UnbufferedOutput&) = delete;
+};
+
+// A file with room for so many bytes of a job stream: it ends where the process may write no
+// further, far beyond the size of any other file that the job writes.
+class ShortFile {
+ public:
+  ShortFile(const std::filesystem::path& path, std::size_t room)
+      : descriptor_(open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0600)),
+        formerHandler_(std::signal(SIGXFSZ, SIG_IGN)) {
+    EXPECT_EQ(getrlimit(RLIMIT_FSIZE, &formerLimit_), 0);
+    const rlimit limit{kEnd, formerLimit_.rlim_max};
+    EXPECT_EQ(setrlimit(RLIMIT_FSIZE, &limit), 0);
+    const auto begin = static_cast<off_t>(kEnd - room);
+    EXPECT_EQ(lseek(descriptor_, begin, SEEK_SET), begin);
+  }
+  ~ShortFile() {
+    (void)setrlimit(RLIMIT_FSIZE, &formerLimit_);
+    (void)std::signal(SIGXFSZ, formerHandler_);
+  }
+  ShortFile(const ShortFile&) = delete;
+  ShortFile& operator=(const ShortFile&) = delete;
+
+  [[nodiscard]] int descriptor() const { return descriptor_; }
+
+ private:
+  static constexpr rlim_t kEnd = rlim_t{64} * 1024 * 1024;
+  int descriptor_;
+  void (*formerHandler_)(int);
+  rlimit formerLimit_{};
+};
+
+// The bytes of the stream of a job without prologue, up to the end of each record.
+constexpr std::size_t kThroughJobRecord = 120;
+constexpr std::size_t kThroughHostRecord = kThroughJobRecord + 152;
+constexpr std::size_t kThroughPageRecord = kThroughHostRecord + 64;
+constexpr std::size_t kThroughBandRecord = kThroughPageRecord + 32;
+
+const std::string kFailed = "ASSERT: GDIFilter sendData: failed to write data: File too large";
+const std::string kPageFailed = "GDIFilter startPage: exiting - result: 0";
+const std::string kMark = "GDIFilter endJob: sending JIDG";  // fails as well, at once
+
+class FailedRecord : public FilterJob {
+ protected:
+  // What a job whose stream ends after `room` bytes says about its writes. Every write from there
+  // on fails, so the log tells each.
+  std::vector<std::string> linesOfJobCutAfter(std::size_t room) {
+    setInformation({{"CUPSFileHeader", ""}, {"SystemVersion", "10.4.0"}});
+    JobFilter filter("", {{pageHeader(8, 1, 1), {}}});
+    const ShortFile file(outputFolder_.path() / "short", room);
+    const CancelAfterReports cancel(log_, 1);
+    const UnbufferedOutput unbuffered;
+    EXPECT_FALSE(runInto(file.descriptor(), filter));
+    return logLines({"ASSERT: GDIFilter", "hostname", "GDIFilter startPage: exiting",
+                     "GDIFilter sendRaster", "GDIFilter endJob: sending"});
+  }
+  static std::string hostLine() {
+    std::array<char, 256> host{};
+    EXPECT_EQ(gethostname(host.data(), host.size() - 1), 0);
+    return "hostname = " + std::string(host.data());
+  }
+};
+
+TEST_F(FailedRecord, OfTheJobIsFollowedByNeitherHostNorPageRecord) {
+  EXPECT_EQ(linesOfJobCutAfter(0), (std::vector{kFailed, kPageFailed, kMark, kFailed}));
+}
+
+TEST_F(FailedRecord, OfTheHostIsFollowedByNoPageRecord) {
+  EXPECT_EQ(linesOfJobCutAfter(kThroughJobRecord),
+            (std::vector{hostLine(), kFailed, kPageFailed, kMark, kFailed}));
+}
+
+TEST_F(FailedRecord, OfThePageFailsThePage) {
+  EXPECT_EQ(linesOfJobCutAfter(kThroughHostRecord),
+            (std::vector{hostLine(), kFailed, kPageFailed, kMark, kFailed}));
+}
+
+TEST_F(FailedRecord, OfABandIsNotFollowedByTheBand) {
+  const std::vector<std::string> expected{hostLine(), "GDIFilter startPage: exiting - result: 1",
+                                          kFailed,    "GDIFilter sendRaster: wrote K band 0",
+                                          kMark,      kFailed};
+  EXPECT_EQ(linesOfJobCutAfter(kThroughPageRecord), expected);
+  log_.clear();
+  gSigTerm = 0;
+  EXPECT_EQ(linesOfJobCutAfter(kThroughBandRecord), expected);  // the band itself
 }
 
 }  // namespace

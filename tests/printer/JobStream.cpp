@@ -110,6 +110,20 @@ std::string orderOf(const std::vector<Band>& bands) {
   return order;
 }
 
+std::string colorOrder(int bands) {
+  std::string order;
+  for (int step = 0; step < bands + 18; ++step) {
+    int lag = 0;
+    for (const char plane : {'K', 'C', 'M', 'Y'}) {
+      if (const int band = step - lag; band >= 0 && band < bands) {
+        order.append(order.empty() ? "" : " ").append(1, plane).append(std::to_string(band));
+      }
+      lag += 6;
+    }
+  }
+  return order;
+}
+
 std::string framingOf(const std::vector<StreamRecord>& records) {
   std::string tags;
   for (const StreamRecord& record : records) {

@@ -40,6 +40,10 @@ std::vector<Band> bandsOf(const std::vector<StreamRecord>& records);
 // Each band as its plane and its number among that plane's bands, as "K0 K1 C0".
 std::string orderOf(const std::vector<Band>& bands);
 
+// The order in which a colour page of that many bands sends them, told as orderOf does: step s
+// sends black s, cyan s-6, magenta s-12, yellow s-18.
+std::string colorOrder(int bands);
+
 // The tags in the order of the stream, bands left out.
 std::string framingOf(const std::vector<StreamRecord>& records);
 

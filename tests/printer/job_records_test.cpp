@@ -193,6 +193,18 @@ TEST(Micrometres, AreRoundedToSinglePrecisionBeforeTheyAreCut) {
   EXPECT_EQ(micrometresOfPoints(47563), 16779170U);  // 16779169.4, single: 16779170
 }
 
+// 47637 points are 16805275 um exactly, half-way between two singles, of which 16805276 is the even
+// one; any other order of the operations ends there. This order, with every double worked out:
+//   47637 / 72.0 = 661.625, exact.
+//   25.4 as a double is 25.4 - 0.8 x 2^-49. The product in units of 2^-38, the doubles' distance
+//   here, is 661.625 x 25.4 x 2^38 - 661.625 x 0.8 x 2^-11 = 4619398817618329.6 - 0.26, rounded
+//   down to ...329, which is 16805.275 - 0.6 x 2^-38.
+//   x 1000.0 that is 16805275 - 600 x 2^-38 = 16805275 - 0.59 x 2^-28, rounded to
+//   16805275 - 2^-28: below half-way, so that the nearest single is 16805274.
+TEST(Micrometres, AreDividedBy72ThenMultipliedBy25Point4ThenBy1000) {
+  EXPECT_EQ(micrometresOfPoints(47637), 16805274U);
+}
+
 TEST(Prologue, IsTheWholeTextWhenItIsASCII) {
   const std::string text = "\x1B%-12345X@PJL\r\n";
   EXPECT_EQ(bytesOf(prologueBytes(text)), Bytes(text.begin(), text.end()));

@@ -110,7 +110,9 @@ TEST(BrokenRaster, APageTooWideForTheSeedRowIsRefusedInOneLine) {
   filter.raster = rasterOf(pages);
   const FilterResult result = filter.run();
   EXPECT_EQ(result.exitStatus, 1);
-  EXPECT_NE(result.errors.find("ERROR: a page of 229376 x 2 pixels is too large to print\n"),
+  EXPECT_NE(result.errors.find("ERROR: rows of 229376 pixels at 1 bits a pixel are wider than the "
+                               "printer takes (28672 bytes); choose a lower quality or smaller "
+                               "paper\n"),
             std::string::npos)
       << result.errors;
   EXPECT_TRUE(result.leftInTmp.empty());
@@ -152,6 +154,10 @@ TEST(BrokenRaster, ThreeChannelsAreRefusedAndLeaveNoFile) {
   EXPECT_EQ(result.exitStatus, 1);
   EXPECT_NE(result.debugLog.find("ASSERT: PlanarFilter startJob: Color option missing\n"),
             std::string::npos);
+  EXPECT_NE(result.errors.find("ERROR: a page of 3 channels cannot be printed: the raster must be "
+                               "black (1) or CMYK (4)\n"),
+            std::string::npos)
+      << result.errors;
   EXPECT_TRUE(result.leftInTmp.empty());
 }
 
