@@ -147,7 +147,7 @@ bool GDIFilter::startPlanes(std::uint32_t page) {
   return result;
 }
 
-// Sent once a job, whether or not the writes succeed.
+// Sent once a job, whether or not the writes succeed: docs/quirks.md, "Job records count as sent".
 bool GDIFilter::sendJobHeaders() {
   sentJobHeaders = true;
   const auto job = jobRecord({.copies = static_cast<std::uint16_t>(cupsPageHeader.NumCopies),

@@ -150,7 +150,7 @@ bool GDIFilter::sendBlankPage() {
   }
   const bool sent = sendBlankLines();
   CPSDebugLog("GDIFilter blankPage: ending page");
-  return sent && endPage(page);
+  return sent && endPage(page);  // docs/quirks.md, "A filler page that fails is not ended"
 }
 
 // The line buffer is all zeros since it was made.

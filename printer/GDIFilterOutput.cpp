@@ -19,6 +19,7 @@ constexpr useconds_t kReportInterval = 100000;  // microseconds
 
 }  // namespace
 
+// docs/quirks.md, "A blocked write outlasts a cancellation".
 bool GDIFilter::sendData(std::span<const std::uint8_t> data) {
   return std::fwrite(data.data(), 1, data.size(), stdout) == data.size() || reportFailedWrite();
 }
@@ -28,7 +29,7 @@ bool GDIFilter::flushData() {
   return std::fflush(stdout) == 0 || reportFailedWrite();
 }
 
-// The failed write is never retried; the job waits to be cancelled.
+// The job waits to be cancelled: docs/quirks.md, "A failed write is never retried".
 bool GDIFilter::reportFailedWrite() {
   CPSDebugAssert_("GDIFilter sendData: failed to write data: %s", std::strerror(errno));
   const std::string line =

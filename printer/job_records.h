@@ -44,7 +44,7 @@ std::array<std::uint8_t, page_record::kLength> pageRecord(const PageRecordFields
 // A title that begins with "@" and has no "(" gives all that follows the "@".
 std::string_view jobNameOfTitle(std::string_view title);
 
-// PostScript points to micrometres, by way of single precision, truncated.
+// PostScript points to micrometres, truncated: docs/quirks.md, "Sizes go through single precision".
 std::uint32_t micrometresOfPoints(std::uint32_t points);
 
 // This host's name; "localhost" when the system has none. `query` is the system's gethostname.
