@@ -40,7 +40,7 @@ struct ExpectedJob {
 Bytes expectedJobStream(const ExpectedJob& job);
 
 // One plane's rows as they stand in the stream, packed and padded.
-std::vector<Bytes> expectedPlane(const ExpectedPage& page, std::uint32_t plane,
+std::vector<Bytes> expectedPlane(const ExpectedPage& expected, std::uint32_t plane,
                                  std::uint32_t depth);
 
 // The output with the job record's four date bytes set to zero, as expectedJobStream has them.
