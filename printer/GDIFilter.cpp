@@ -13,9 +13,9 @@
 #include "filter/log/debug_log.h"
 #include "halftone/plane_geometry.h"
 #include "platform/NSBundle.h"
+#include "printer/format/solvane_date.h"
 #include "printer/page_option_codes.h"
 #include "printer/page_side.h"
-#include "printer/solvane_date.h"
 
 namespace gdi {
 

@@ -8,7 +8,7 @@
 
 #include <unistd.h>
 
-#include "printer/solvane_date.h"
+#include "printer/format/solvane_date.h"
 #include "tests/printer/FilterJob.h"
 
 namespace gdi::test {

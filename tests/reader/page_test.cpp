@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/reader/job_builder.h"
+#include "tests/jobs/job_builder.h"
 
 namespace gdi::reader {
 namespace {

@@ -11,7 +11,7 @@
 #include <gtest/gtest.h>
 #include <png.h>
 
-#include "tests/reader/job_builder.h"
+#include "tests/jobs/job_builder.h"
 
 namespace gdi::gdiview {
 namespace {

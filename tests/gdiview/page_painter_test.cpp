@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/reader/job_builder.h"
+#include "tests/jobs/job_builder.h"
 #include "tools/gdiview/PagePainter.h"
 
 namespace gdi::gdiview {

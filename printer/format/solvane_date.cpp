@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The rasterToGDI authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "printer/solvane_date.h"
+#include "printer/format/solvane_date.h"
 
 namespace gdi {
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The rasterToGDI authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "tests/reader/job_builder.h"
+#include "tests/jobs/job_builder.h"
 
 #include <algorithm>
 
