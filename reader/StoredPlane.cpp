@@ -3,6 +3,7 @@
 
 #include "reader/StoredPlane.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "codec/pc4sc4.h"
@@ -47,16 +48,27 @@ std::vector<std::uint8_t> StoredPlane::rowsOfBand(std::size_t band) const {
   return std::move(decoded.rows);
 }
 
-std::span<const std::uint8_t> RowCursor::next() {
-  if (position_ == rows_.size()) {
-    if (nextBand_ == plane_.bands().size()) {
-      return {};
-    }
-    rows_ = plane_.rowsOfBand(nextBand_++);
-    position_ = 0;
+std::span<const std::uint8_t> PlaneRows::row(std::uint32_t y) {
+  if (y >= plane_.rows()) {
+    return {};
   }
-  const auto row = std::span<const std::uint8_t>(rows_).subspan(position_, plane_.rowBytes());
-  position_ += row.size();
+  if (y < firstRow_ || y >= endRow_) {
+    const std::vector<StoredPlane::Band>& bands = plane_.bands();
+    const auto below = std::upper_bound(
+        bands.begin(), bands.end(), y,
+        [](std::uint32_t wanted, const StoredPlane::Band& band) { return wanted < band.firstRow; });
+    const auto band = static_cast<std::size_t>(below - bands.begin()) - 1;
+    rows_ = plane_.rowsOfBand(band);
+    firstRow_ = bands[band].firstRow;
+    endRow_ = firstRow_ + bands[band].rows;
+  }
+  return std::span<const std::uint8_t>(rows_).subspan((y - firstRow_) * plane_.rowBytes(),
+                                                      plane_.rowBytes());
+}
+
+std::span<const std::uint8_t> RowCursor::next() {
+  const auto row = rows_.row(y_);
+  y_ += row.empty() ? 0 : 1;
   return row;
 }
 

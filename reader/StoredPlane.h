@@ -58,20 +58,35 @@ class StoredPlane {
   std::vector<Band> bands_;
 };
 
+// The rows of one plane in any order, one band decoded at a time: whoever goes through them from
+// top to bottom or from bottom to top has each band decoded once.
+class PlaneRows {
+ public:
+  // `plane` must outlive this, and may not change meanwhile.
+  explicit PlaneRows(const StoredPlane& plane) : plane_(plane) {}
+
+  // Row y, 0 on top: rowBytes() bytes, valid until the next call; empty below the last row.
+  std::span<const std::uint8_t> row(std::uint32_t y);
+
+ private:
+  const StoredPlane& plane_;
+  std::uint32_t firstRow_ = 0;      // of the band that is decoded
+  std::uint32_t endRow_ = 0;        // behind it; firstRow_ while none is decoded
+  std::vector<std::uint8_t> rows_;  // of that band
+};
+
 // The rows of one plane from top to bottom, one band decoded at a time.
 class RowCursor {
  public:
   // `plane` must outlive the cursor.
-  explicit RowCursor(const StoredPlane& plane) : plane_(plane) {}
+  explicit RowCursor(const StoredPlane& plane) : rows_(plane) {}
 
   // The next row, rowBytes() bytes, valid until the next call; empty below the last row.
   std::span<const std::uint8_t> next();
 
  private:
-  const StoredPlane& plane_;
-  std::size_t nextBand_ = 0;
-  std::size_t position_ = 0;  // bytes of rows_ given out
-  std::vector<std::uint8_t> rows_;
+  PlaneRows rows_;
+  std::uint32_t y_ = 0;
 };
 
 // What the decoder makes of one band.

@@ -28,6 +28,8 @@ class InkMixer {
   // lowest bitsPerPixel bits.
   // requires: values < 2 to the power of (number of inks x bitsPerPixel)
   [[nodiscard]] const Color& mix(std::uint16_t values) const { return colors_[values]; }
+  // The colours of all values, in their order.
+  [[nodiscard]] std::span<const Color> colors() const { return colors_; }
 
  private:
   std::vector<Color> colors_;

@@ -1,50 +1,51 @@
 // SPDX-FileCopyrightText: 2026 The rasterToGDI authors
 // SPDX-License-Identifier: Apache-2.0
 
-// A page as rows of picture samples, made from top to bottom without holding the picture.
+// A page as a picture: all its inks in colour or one of them in grey, as stored or turned round.
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <vector>
 
 #include "reader/Page.h"
+#include "tools/gdiview/CellMeans.h"
 #include "tools/gdiview/InkMixer.h"
+#include "tools/gdiview/Picture.h"
+#include "tools/gdiview/PixelRows.h"
 
 namespace gdi::gdiview {
 
-class PagePainter {
- public:
+struct PaintOptions {
   // One sample stands for `reduction` x `reduction` pixels and is their mean; the last ones of a
-  // row and the last row stand for what is left. `page` must outlive the painter.
-  // requires: reduction > 0
-  PagePainter(const reader::Page& page, std::uint32_t reduction);
+  // row and the last row stand for what is left. > 0.
+  std::uint32_t reduction = 1;
+  // Turned by 180 degrees: takes back what the back of a sheet is stored like. Cells of the
+  // reduction begin at the top left of the turned page.
+  bool upright = false;
+  // This plane alone, as black ink on white paper; white when the page has no such plane.
+  std::optional<reader::Ink> separation = std::nullopt;
+};
 
-  [[nodiscard]] std::uint32_t width() const { return width_; }        // samples
-  [[nodiscard]] std::uint32_t height() const { return height_; }      // sample rows
-  [[nodiscard]] std::uint32_t channels() const { return channels_; }  // 1 = grey, 3 = RGB
+class PagePainter : public Picture {
+ public:
+  // `page` must outlive the painter.
+  explicit PagePainter(const reader::Page& page, const PaintOptions& options = {});
 
-  // The next row, width() x channels() bytes, valid until the next call.
-  // requires: fewer than height() calls before
-  std::span<const std::uint8_t> nextRow();
+  std::span<const std::uint8_t> nextRow() override;
 
  private:
-  void readPixels();
-  void addPixels();
-  void divideSums(std::uint32_t rows);
+  // The next row of pixels, a sample each.
+  std::span<const std::uint8_t> paintPixels();
 
-  unsigned bitsPerPixel_;
-  std::uint32_t reduction_;
-  std::uint32_t pixelWidth_;
-  std::uint32_t pixelRowsLeft_;
-  std::uint32_t width_;
-  std::uint32_t height_;
-  std::uint32_t channels_;
+  PaintOptions options_;
+  std::uint32_t pixelRows_;
+  std::uint32_t painted_ = 0;  // rows of pixels
   InkMixer mixer_;
-  std::vector<reader::RowCursor> cursors_;  // of the page's planes, in the mixer's order
-  std::vector<std::uint16_t> values_;       // of one row of pixels, as the mixer takes them
-  std::vector<std::uint64_t> sums_;
-  std::vector<std::uint8_t> samples_;
+  PixelRows pixels_;
+  std::vector<std::uint8_t> samples_;  // of one row of pixels
+  CellMeans means_;
 };
 
 }  // namespace gdi::gdiview

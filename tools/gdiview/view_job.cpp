@@ -25,7 +25,7 @@ std::uint32_t samplesPerMetre(std::uint32_t reduction) {
 // False, with errno set, when the picture cannot be written.
 bool writePicture(const reader::Page& page, std::uint32_t reduction,
                   const std::filesystem::path& path) {
-  PagePainter painter(page, reduction);
+  PagePainter painter(page, {.reduction = reduction});
   const std::unique_ptr<PngFile> file = PngFile::create(
       path, {painter.width(), painter.height(), painter.channels(), samplesPerMetre(reduction)});
   if (file == nullptr) {
