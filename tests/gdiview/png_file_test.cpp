@@ -1,0 +1,118 @@
+// SPDX-FileCopyrightText: 2026 The rasterToGDI authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include <cerrno>
+#include <csignal>
+#include <cstdlib>
+#include <fstream>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+
+#include "tools/gdiview/PngFile.h"
+
+namespace gdi::gdiview {
+namespace {
+
+// A disk that is full after so many bytes of a file: the system refuses more with EFBIG.
+class SmallDisk {
+ public:
+  explicit SmallDisk(rlim_t bytes) {
+    getrlimit(RLIMIT_FSIZE, &before_);
+    const rlimit small{bytes, before_.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &small);
+  }
+  ~SmallDisk() {
+    setrlimit(RLIMIT_FSIZE, &before_);
+    (void)std::signal(SIGXFSZ, handler_);
+  }
+  SmallDisk(const SmallDisk&) = delete;
+  SmallDisk& operator=(const SmallDisk&) = delete;
+  SmallDisk(SmallDisk&&) = delete;
+  SmallDisk& operator=(SmallDisk&&) = delete;
+
+ private:
+  rlimit before_{};
+  void (*handler_)(int) = std::signal(SIGXFSZ, SIG_IGN);
+};
+
+class PngFileOnDisk : public testing::Test {
+ protected:
+  void SetUp() override {
+    std::string pattern = testing::TempDir() + "png-file-XXXXXX";
+    scratch_ = mkdtemp(pattern.data());
+    picture_ = scratch_ / "picture.png";
+  }
+  void TearDown() override { std::filesystem::remove_all(scratch_); }
+
+  std::filesystem::path scratch_;
+  std::filesystem::path picture_;
+};
+
+TEST_F(PngFileOnDisk, AFinishedPictureStays) {
+  std::unique_ptr<PngFile> file = PngFile::create(picture_, {3, 1, 1, 23622});
+  ASSERT_NE(file, nullptr);
+  EXPECT_TRUE(file->writeRow(std::vector<std::uint8_t>{0, 128, 255}));
+  EXPECT_TRUE(file->finish());
+  file.reset();
+  EXPECT_TRUE(std::filesystem::exists(picture_));
+}
+
+TEST_F(PngFileOnDisk, APictureThatIsGivenUpIsRemoved) {
+  std::unique_ptr<PngFile> file = PngFile::create(picture_, {3, 2, 1, 23622});
+  ASSERT_NE(file, nullptr);
+  EXPECT_TRUE(file->writeRow(std::vector<std::uint8_t>{0, 128, 255}));
+  file.reset();
+  EXPECT_FALSE(std::filesystem::exists(picture_));
+}
+
+// The first of the rows that no longer fits is told, and errno outlives the removal.
+TEST_F(PngFileOnDisk, ADiskThatIsFullAmongTheRowsLeavesNoHalfPicture) {
+  constexpr std::uint32_t kWidth = 10000;
+  int error = 0;
+  bool written = true;
+  {
+    const SmallDisk disk(20000);
+    std::unique_ptr<PngFile> file = PngFile::create(picture_, {kWidth, 100, 1, 23622});
+    ASSERT_NE(file, nullptr);
+    std::vector<std::uint8_t> row(kWidth);
+    std::uint32_t noise = 1;
+    for (int y = 0; y < 100 && written; ++y) {
+      for (std::uint8_t& sample : row) {
+        noise = noise * 1664525 + 1013904223;
+        sample = static_cast<std::uint8_t>(noise >> 24);
+      }
+      errno = 0;
+      written = file->writeRow(row);
+    }
+    file.reset();
+    error = errno;
+  }
+  EXPECT_FALSE(written);
+  EXPECT_EQ(error, EFBIG);
+  EXPECT_FALSE(std::filesystem::exists(picture_));
+}
+
+// All of a small picture is still in memory when its last row has been written.
+TEST_F(PngFileOnDisk, ADiskThatIsFullAtTheEndLeavesNoHalfPicture) {
+  int error = 0;
+  bool finished = true;
+  {
+    const SmallDisk disk(20);
+    std::unique_ptr<PngFile> file = PngFile::create(picture_, {3, 1, 1, 23622});
+    ASSERT_NE(file, nullptr);
+    EXPECT_TRUE(file->writeRow(std::vector<std::uint8_t>{0, 128, 255}));
+    errno = 0;
+    finished = file->finish();
+    file.reset();
+    error = errno;
+  }
+  EXPECT_FALSE(finished);
+  EXPECT_EQ(error, EFBIG);
+  EXPECT_FALSE(std::filesystem::exists(picture_));
+}
+
+}  // namespace
+}  // namespace gdi::gdiview
