@@ -1,0 +1,58 @@
+// SPDX-FileCopyrightText: 2026 The rasterToGDI authors
+// SPDX-License-Identifier: Apache-2.0
+
+// Where two pages differ, plane by plane: in their pixels, in their padding or in their coding
+// alone.
+//
+// Every difference of band data is told by one of the three. Rows are compared bit by bit where
+// they stand on the page, whatever bands they come from. What one page lacks, be it a plane, a row
+// or the end of a row's bytes, is blank in it. In the narrower page the pixels between both widths
+// are what its rows hold there.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <optional>
+
+#include "reader/Page.h"
+
+namespace gdi::gdiview {
+
+struct PixelPlace {
+  std::uint32_t x = 0;  // pixels from the left
+  std::uint32_t y = 0;  // rows from the top
+  friend bool operator==(const PixelPlace&, const PixelPlace&) = default;
+};
+
+// Bands are counted by their index in the plane, from 0 on top.
+struct PlaneDifference {
+  std::uint64_t pixels = 0;              // that differ, in the width of the wider page
+  std::optional<PixelPlace> firstPixel;  // the leftmost in the topmost row that has any
+  std::uint64_t paddingBits = 0;         // that differ right of that width
+  std::uint32_t recodedBands = 0;        // with other bytes for the same bits
+  std::optional<std::uint32_t> firstRecodedBand;
+  std::uint32_t differentBands = 0;  // with a row that differs in a pixel or in its padding
+  std::optional<std::uint32_t> firstDifferentBand;
+
+  [[nodiscard]] bool sameBits() const { return pixels == 0 && paddingBits == 0; }
+  [[nodiscard]] bool sameBytes() const { return sameBits() && recodedBands == 0; }
+};
+
+struct PageDifference {
+  // False when the pages' pixels are not of equally many bits; nothing is compared then.
+  bool comparable = true;
+  std::array<PlaneDifference, reader::kInkCount> planes;  // indexed by indexOf(ink)
+
+  [[nodiscard]] const PlaneDifference& plane(reader::Ink ink) const {
+    return planes[reader::indexOf(ink)];
+  }
+  // No pixel, no bit of the rows or no byte of the bands differs; false when not comparable.
+  [[nodiscard]] bool samePixels() const;
+  [[nodiscard]] bool sameBits() const;
+  [[nodiscard]] bool sameBytes() const;
+};
+
+// Holds one decoded band of each page at a time, and decodes no band that is the same in both.
+PageDifference differenceOf(const reader::Page& a, const reader::Page& b);
+
+}  // namespace gdi::gdiview
