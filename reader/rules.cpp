@@ -40,8 +40,10 @@ constexpr std::array kRules{
     RuleText{Rule::kLastFlag, "last-flag", "the page's last band, and no other, is flagged last"},
     RuleText{Rule::kBandHeight, "band-height", "only a plane's last band has less than 256 rows"},
     RuleText{Rule::kBandData, "band-data", "a band decodes to exactly its rows"},
-    RuleText{Rule::kClearRow, "clear-row", "a band's data begin with the clear-row command"},
-    RuleText{Rule::kRecordMinimum, "record-minimum", "a row record has 0 or at least 8 code words"},
+    RuleText{Rule::kClearRow, "clear-row", "a band's first row begins with the clear-row command"},
+    RuleText{
+        Rule::kRecordMinimum, "record-minimum",
+        "a row record has 0 or at least 8 code words, unless it is the last and has padding alone"},
     RuleText{Rule::kTrailer, "trailer", "the page's last band ends with the trailer"},
     RuleText{Rule::kBandEnd, "band-end", "nothing follows a band's last row but a trailer"},
     RuleText{Rule::kRowSlack, "row-slack", "a row's last 32 bits are zero"},

@@ -1,38 +1,19 @@
 // SPDX-FileCopyrightText: 2026 The rasterToGDI authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include <fstream>
 #include <sstream>
-#include <string>
 
 #include <gtest/gtest.h>
 
 #include "reader/JobReader.h"
 #include "tests/jobs/job_builder.h"
+#include "tests/support/document_block.h"
 
 namespace gdi::reader {
 namespace {
 
-// The bytes of the document's block that starts with ```hex; text from # on is comment.
-jobtest::Bytes exampleOfTheDocument() {
-  std::ifstream document(GDI_JOB_STREAM_DOCUMENT);
-  jobtest::Bytes bytes;
-  bool inside = false;
-  for (std::string line; std::getline(document, line);) {
-    if (line.starts_with("```")) {
-      inside = line == "```hex";
-      continue;
-    }
-    std::istringstream words(inside ? line.substr(0, line.find('#')) : std::string());
-    for (std::string word; words >> word;) {
-      bytes.push_back(static_cast<std::uint8_t>(std::stoul(word, nullptr, 16)));
-    }
-  }
-  return bytes;
-}
-
 TEST(JobStreamDocument, ItsWorkedExampleIsASoundJobWithTheRowsThatItTells) {
-  const jobtest::Bytes bytes = exampleOfTheDocument();
+  const jobtest::Bytes bytes = test::bytesOfHexBlock(GDI_JOB_STREAM_DOCUMENT);
   ASSERT_EQ(bytes.size(), 404U);
   std::istringstream input = jobtest::streamOf(bytes);
   JobReader job(input);
