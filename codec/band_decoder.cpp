@@ -57,7 +57,15 @@ class RowBuilder {
   // `row` is a whole number of pixel words.
   explicit RowBuilder(std::span<std::uint8_t> row) : row_(row), words_(row.size() / sizeof(Word)) {}
 
-  void clear() { std::fill(row_.begin(), row_.end(), std::uint8_t{0}); }
+  // Once the row was cleared, only what was stored since needs it again: the cursor never goes
+  // back.
+  void clear() {
+    const auto from = row_.begin() + static_cast<std::ptrdiff_t>(2 * clearFrom_);
+    const auto to = cleared_ ? row_.begin() + static_cast<std::ptrdiff_t>(2 * cursor_) : row_.end();
+    std::fill(from, to, std::uint8_t{0});
+    clearFrom_ = cursor_;
+    cleared_ = true;
+  }
   // Moves the cursor on by `skip`, if `count` words can be stored behind that.
   [[nodiscard]] bool skipTo(std::size_t skip, std::size_t count) {
     if (skip + count > words_ - cursor_) {
@@ -85,6 +93,8 @@ class RowBuilder {
   std::span<std::uint8_t> row_;
   std::size_t words_;
   std::size_t cursor_ = 0;
+  bool cleared_ = false;
+  std::size_t clearFrom_ = 0;  // the first word that may have been stored since the clearing
 };
 
 std::size_t distanceIn(unsigned field) {
