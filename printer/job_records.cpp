@@ -41,6 +41,7 @@ std::array<std::uint8_t, job_record::kLength> jobRecord(const JobRecordFields& f
   record[kColorOffset] = fields.color ? 1 : 0;
   record[kConstant1Offset] = kConstant1;
   record[kBitsPerPixelMinus1Offset] = static_cast<std::uint8_t>(fields.bitsPerPixel - 1);
+  record[kConstant0Offset] = kConstant0;
   record[kConstant2Offset] = kConstant2;
   putText(record, kJobNameOffset, fields.jobName);
   return record;

@@ -7,13 +7,6 @@
 
 namespace gdi::reader {
 
-namespace {
-
-// The paper's size is told in whole points, so the raster may be wider than it by this much.
-constexpr std::uint32_t kPixelsPerPoint = 9;
-
-}  // namespace
-
 std::uint32_t Page::rows() const {
   std::uint32_t rows = 0;
   for (const StoredPlane& plane : planes) {
@@ -22,8 +15,21 @@ std::uint32_t Page::rows() const {
   return rows;
 }
 
-std::uint32_t Page::widthPixels() const {
-  const std::uint64_t onPaper = pixelsOnPaper(record);
+std::span<const Ink> PageSummary::inks() const {
+  const std::span<const Ink> all(kInks);
+  return isColor() ? all : all.subspan(indexOf(Ink::kBlack));
+}
+
+std::uint64_t PageSummary::bytesOfRows() const {
+  std::uint64_t rows = 0;
+  for (const PlaneSummary& plane : planeSummaries) {
+    rows += plane.rows;
+  }
+  return rows * (rowBits / 8);
+}
+
+std::uint32_t PageSummary::widthPixels() const {
+  const std::uint64_t onPaper = pixelsOnPaper(record.widthMicrometres);
   const std::uint32_t most = rowBits < kRowSlackBits ? 0 : (rowBits - kRowSlackBits) / bitsPerPixel;
   const std::uint32_t nextShorterRow = kRowBitsMultiple + kRowSlackBits;
   const std::uint32_t least =

@@ -8,6 +8,8 @@
 #include <utility>
 
 #include "printer/format/big_endian.h"
+#include "reader/counted.h"
+#include "reader/record_rules.h"
 
 namespace gdi::reader {
 
@@ -16,14 +18,9 @@ namespace {
 // Band data is read in pieces of this size, so that a lying length costs no memory.
 constexpr std::size_t kPieceBytes = 65536;
 
-// What the job record starts with: its tag and its length.
-constexpr std::array<std::uint8_t, 8> kJobRecordStart{
-    job_record::kTag[0], job_record::kTag[1], job_record::kTag[2], job_record::kTag[3], 0, 0, 0,
-    job_record::kLength};
-
-bool hasTag(std::span<const std::uint8_t> bytes, const Tag& tag) {
-  return std::equal(tag.begin(), tag.end(), bytes.begin());
-}
+// How often a band whose length lies is searched for the records inside it: each search costs up to
+// the longest band.
+constexpr unsigned kMostShortenedBands = 64;
 
 std::string hexadecimal(std::span<const std::uint8_t> bytes) {
   std::string text;
@@ -38,194 +35,234 @@ std::string hexadecimal(std::span<const std::uint8_t> bytes) {
 
 }  // namespace
 
-std::optional<Record> RecordReader::next() {
-  if (expecting_ == Expecting::kNothing) {
+std::optional<RecordStep> RecordReader::next() {
+  if (finished_) {
     return std::nullopt;
   }
-  Record record = expecting_ == Expecting::kPrologue ? skipPrologue() : readRecord();
-  if (auto* trouble = std::get_if<Trouble>(&record)) {
-    expecting_ = Expecting::kNothing;
-    if (input_.bad()) {
-      trouble->text = "the input cannot be read further";
-      trouble->offset = offset_;
-    }
+  if (!started_) {
+    started_ = true;
+    return readPrologue();
   }
-  return record;
+  const std::span<const std::uint8_t> start = source_.peek(sizeof(Tag));
+  if (start.empty()) {
+    return readEnd();
+  }
+  const std::optional<RecordKind> kind =
+      start.size() < sizeof(Tag) ? std::nullopt : kindOfTag(start);
+  const bool follows = std::exchange(ended_, false);
+  RecordStep step = kind ? readRecord(*kind) : readGap();
+  if (follows && !std::exchange(toldWhatFollows_, true)) {
+    std::erase_if(step.flaws, [](const Flaw& flaw) { return flaw.rule == Rule::kTag; });
+    step.flaws.insert(step.flaws.begin(),
+                      {0, Rule::kAfterEnd, "the stream goes on behind the end-of-job mark (JIDG)"});
+  }
+  if (follows && std::holds_alternative<Gap>(step.record)) {
+    ended_ = true;
+  }
+  return step;
 }
 
 // A job without any page is a prologue and the end-of-job mark: there is no job record to find.
-Record RecordReader::skipPrologue() {
-  std::array<std::uint8_t, kJobRecordStart.size()> window{};
-  std::optional<Trouble> lying;  // the job record's tag with another length than the job record's
-  while (read(std::span(record_).first(1)) == 1) {
-    std::shift_left(window.begin(), window.end(), 1);
-    window.back() = record_[0];
-    if (window == kJobRecordStart) {
-      prologueBytes_ = recordOffset_ = offset_ - window.size();
-      std::copy(window.begin(), window.end(), record_.begin());
-      return readJob();
-    }
-    if (!lying && hasTag(window, job_record::kTag)) {
-      lying = lengthIsWrong("job", bigEndian32(window, kRecordLengthOffset));
-      lying->offset = offset_ - sizeof(std::uint32_t);
-    }
+RecordStep RecordReader::readPrologue() {
+  RecordStep step;
+  Prologue prologue;
+  if (prologueIsAsExpected(prologue)) {
+    foundRecord_ = true;
+    step.bytes = prologue.start.size();
+  } else {
+    SkippedBytes skipped = skipToRecord(source_);
+    foundRecord_ = skipped.foundRecord;
+    step.bytes = skipped.count;
+    prologue.start = std::move(skipped.start);
   }
-  prologueBytes_ = offset_;
-  if (lying) {
-    return *lying;
-  }
-  if (offset_ >= kEndOfJobTag.size() &&
-      std::equal(kEndOfJobTag.begin(), kEndOfJobTag.end(), window.end() - kEndOfJobTag.size())) {
-    prologueBytes_ = recordOffset_ = offset_ - kEndOfJobTag.size();
-    expecting_ = Expecting::kNothing;
-    return EndOfJob{};
-  }
-  return Trouble{offset_, "the stream ends and no job record (GDIJ) was found"};
+  step.record = std::move(prologue);
+  return step;
 }
 
-Record RecordReader::readRecord() {
-  recordOffset_ = offset_;
-  const std::size_t got = read(std::span(record_).first(sizeof(Tag)));
-  const auto tag = std::span<const std::uint8_t>(record_).first(sizeof(Tag));
-  if (got == 0) {
-    return Trouble{offset_, "the stream ends without the end-of-job mark (JIDG)"};
+bool RecordReader::prologueIsAsExpected(Prologue& prologue) {
+  if (!expectedPrologue_ || *expectedPrologue_ > kSkippedBytesKept) {
+    return false;
   }
-  if (got < tag.size()) {
-    return Trouble{recordOffset_, "the stream ends inside a record's tag"};
+  std::vector<std::uint8_t> bytes(*expectedPrologue_ + kRecordStartBytes);
+  bytes.resize(source_.read(bytes));
+  const std::size_t behind = bytes.size() - std::min<std::size_t>(bytes.size(), *expectedPrologue_);
+  const auto start = std::span(bytes).last(behind);
+  prologue.asExpected =
+      start.size() >= sizeof(Tag) &&
+      (kindOfTag(start) == RecordKind::kJob ||
+       (start.size() == sizeof(Tag) && kindOfTag(start) == RecordKind::kEndOfJob));
+  source_.giveBack(prologue.asExpected ? start : std::span(bytes));
+  if (prologue.asExpected) {
+    bytes.resize(*expectedPrologue_);
+    prologue.start = std::move(bytes);
   }
-  if (expecting_ == Expecting::kHost) {
-    if (hasTag(tag, host_record::kTag)) {
-      return readHost();
-    }
-    return Trouble{recordOffset_,
-                   "the host record (GJET) must follow the job record, not " + hexadecimal(tag)};
-  }
-  if (hasTag(tag, page_record::kTag)) {
-    return readPage();
-  }
-  if (hasTag(tag, kEndOfJobTag)) {
-    return readEnd();
-  }
-  if (hasTag(tag, band_record::kTag)) {
-    if (expecting_ == Expecting::kBandPageOrEnd) {
-      return readBand();
-    }
-    return Trouble{recordOffset_, "a band record (GDIB) comes ahead of the first page record"};
-  }
-  return Trouble{recordOffset_, "no record has the tag " + hexadecimal(tag)};
+  return prologue.asExpected;
 }
 
-Record RecordReader::readJob() {
-  const std::size_t rest = job_record::kLength - kJobRecordStart.size();
-  if (read(std::span(record_).subspan(kJobRecordStart.size(), rest)) < rest) {
-    return endsInside("job", job_record::kLength);
+RecordStep RecordReader::readRecord(RecordKind kind) {
+  RecordStep step;
+  step.offset = source_.offset();
+  const auto bytes = std::span(record_).first(lengthOf(kind));
+  step.bytes = source_.read(bytes);
+  foundRecord_ = true;
+  lengthWasUnknown_ = false;
+  if (step.bytes < bytes.size()) {
+    step.record = BrokenOff{};
+    step.flaws.push_back({step.bytes, Rule::kTruncated,
+                          "the stream ends after " + std::to_string(step.bytes) + " of the " +
+                              nameOf(kind) + "'s " + std::to_string(bytes.size()) + " bytes"});
+    finished_ = true;
+    return step;
   }
-  JobRecord record = parseJobRecord(record_);
-  if (record.bitsPerPixel != 1 && record.bitsPerPixel != 2 && record.bitsPerPixel != 4) {
-    return Trouble{recordOffset_ + job_record::kBitsPerPixelMinus1Offset,
-                   "the job record says " + std::to_string(record.bitsPerPixel) +
-                       " bits a pixel; there are only 1, 2 and 4"};
-  }
-  if (record.hostRecordLength != host_record::kLength) {
-    return Trouble{recordOffset_ + job_record::kHostRecordLengthOffset,
-                   "the job record announces a host record of " +
-                       std::to_string(record.hostRecordLength) + " bytes, not " +
-                       std::to_string(host_record::kLength)};
-  }
-  expecting_ = Expecting::kHost;
-  return record;
-}
-
-Record RecordReader::readHost() {
-  if (!readRest(host_record::kLength)) {
-    return endsInside("host", host_record::kLength);
-  }
-  HostRecord record = parseHostRecord(record_);
-  if (record.length != host_record::kLength) {
-    return lengthIsWrong("host", record.length);
-  }
-  expecting_ = Expecting::kPageOrEnd;
-  return record;
-}
-
-Record RecordReader::readPage() {
-  if (!readRest(page_record::kLength)) {
-    return endsInside("page", page_record::kLength);
-  }
-  const PageRecord record = parsePageRecord(record_);
-  if (record.length != page_record::kLength) {
-    return lengthIsWrong("page", record.length);
-  }
-  expecting_ = Expecting::kBandPageOrEnd;
-  return record;
-}
-
-Record RecordReader::readBand() {
-  if (!readRest(band_record::kLength)) {
-    return endsInside("band", band_record::kLength);
-  }
-  Band band;
-  band.record = parseBandRecord(record_);
-  for (const Ink ink : kInks) {
-    if (band.record.lengths[indexOf(ink)] == 0) {
-      continue;
+  step.header.assign(bytes.begin(), bytes.end());
+  step.flaws = flawsOfRecord(kind, bytes);
+  checkOrder(kind, step);
+  switch (kind) {
+    case RecordKind::kJob:
+      step.record = parseJobRecord(bytes);
+      break;
+    case RecordKind::kHost:
+      step.record = parseHostRecord(bytes);
+      break;
+    case RecordKind::kPage:
+      step.record = parsePageRecord(bytes);
+      break;
+    case RecordKind::kBand: {
+      Band band;
+      band.record = parseBandRecord(bytes);
+      readBandData(band, step);
+      if (finished_) {
+        step.record = BrokenOff{};
+      } else {
+        step.record = std::move(band);
+      }
+      break;
     }
-    if (band.ink) {
-      return Trouble{recordOffset_ + band_record::kBlackLengthOffset,
-                     std::string("the band record gives a length for ") + nameOf(*band.ink) +
-                         " and for " + nameOf(ink)};
-    }
-    band.ink = ink;
+    case RecordKind::kEndOfJob:
+      step.record = EndOfJob{};
+      ended_ = true;
+      break;
   }
+  return step;
+}
+
+void RecordReader::checkOrder(RecordKind kind, RecordStep& step) {
+  const auto tell = [&step](const char* text) {
+    step.flaws.insert(step.flaws.begin(), {0, Rule::kRecordOrder, text});
+  };
+  const Expecting expected = expecting_;
+  switch (kind) {
+    case RecordKind::kJob:
+      if (expected != Expecting::kJob) {
+        tell("a second job record (GDIJ)");
+      }
+      expecting_ = Expecting::kHost;
+      return;
+    case RecordKind::kHost:
+      if (expected != Expecting::kHost) {
+        tell("the host record (GJET) does not follow the job record");
+      }
+      expecting_ = std::max(expected, Expecting::kPageOrEnd);
+      return;
+    case RecordKind::kPage:
+      expecting_ = Expecting::kBandPageOrEnd;
+      break;
+    case RecordKind::kBand:
+      if (expected == Expecting::kPageOrEnd) {
+        tell("a band record (GDIB) comes ahead of the first page record");
+      }
+      expecting_ = std::max(expected, Expecting::kPageOrEnd);
+      break;
+    case RecordKind::kEndOfJob:
+      expecting_ = Expecting::kJob;
+      break;
+  }
+  if (expected == Expecting::kHost) {
+    tell("the host record (GJET) is missing");
+  } else if (expected == Expecting::kJob && kind != RecordKind::kEndOfJob) {
+    tell("the job record (GDIJ) is missing");
+  }
+}
+
+void RecordReader::readBandData(Band& band, RecordStep& step) {
+  band.ink = band.record.ink();
   std::size_t left = band.ink ? band.record.lengths[indexOf(*band.ink)] : 0;
+  lengthWasUnknown_ =
+      left > longestBandBytes(kBandHeight) ||
+      std::ranges::any_of(step.flaws, [](const Flaw& f) { return f.rule == Rule::kBandPlane; });
+  if (lengthWasUnknown_) {
+    return;
+  }
   while (left > 0) {
     const std::size_t have = band.data.size();
     const std::size_t piece = std::min(left, kPieceBytes);
     band.data.resize(have + piece);
-    const std::size_t got = read(std::span(band.data).subspan(have));
+    const std::size_t got = source_.read(std::span(band.data).subspan(have));
+    band.data.resize(have + got);
     left -= got;
     if (got < piece) {
-      return Trouble{offset_, "the stream ends after " + std::to_string(have + got) + " of the " +
-                                  nameOf(*band.ink) + " band's " +
-                                  std::to_string(have + got + left) + " bytes"};
+      break;
     }
   }
-  return band;
-}
-
-Record RecordReader::readEnd() {
-  if (read(std::span(record_).first(1)) != 0) {
-    return Trouble{recordOffset_ + kEndOfJobTag.size(), "bytes follow the end-of-job mark (JIDG)"};
+  step.bytes += band.data.size();
+  const std::span<const std::uint8_t> behind = source_.peek(sizeof(Tag));
+  if (left > 0 || (!behind.empty() && (behind.size() < sizeof(Tag) || !kindOfTag(behind)))) {
+    cutToNextRecord(band, step);
   }
-  if (input_.bad()) {
-    return Trouble{offset_, ""};
+}
+
+// The band's length leads nowhere. If a record begins inside its data, they end there.
+void RecordReader::cutToNextRecord(Band& band, RecordStep& step) {
+  const std::uint32_t told = band.record.lengths[indexOf(*band.ink)];
+  const std::size_t have = band.data.size();
+  std::optional<std::size_t> start;
+  if (shortenedBands_ < kMostShortenedBands) {
+    const std::span<const std::uint8_t> behind = source_.peek(kRecordStartBytes - 1);
+    band.data.insert(band.data.end(), behind.begin(), behind.end());
+    start = findRecordStart(band.data);
+    band.data.resize(have);
   }
-  expecting_ = Expecting::kNothing;
-  return EndOfJob{};
+  if (start) {
+    ++shortenedBands_;
+    source_.giveBack(std::span(band.data).subspan(*start));
+    band.data.resize(*start);
+    step.bytes -= have - *start;
+    step.flaws.push_back({lengthOffsetOf(*band.ink), Rule::kBandLength,
+                          "the band has " + std::to_string(told) +
+                              " bytes, and yet a record begins after " + counted(*start, "byte")});
+  } else if (have < told) {
+    step.flaws.push_back({step.bytes, Rule::kTruncated,
+                          "the stream ends after " + std::to_string(have) + " of the " +
+                              nameOf(*band.ink) + " band's " + counted(told, "byte")});
+    finished_ = true;
+  }
 }
 
-std::size_t RecordReader::read(std::span<std::uint8_t> bytes) {
-  // char is the type that std::istream reads; any object may be filled through it.
-  input_.read(reinterpret_cast<char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
-  const auto got = static_cast<std::size_t>(input_.gcount());
-  offset_ += got;
-  return got;
+RecordStep RecordReader::readGap() {
+  RecordStep step;
+  step.offset = source_.offset();
+  const std::string start = hexadecimal(source_.peek(sizeof(Tag)));
+  step.bytes = skipToRecord(source_).count;
+  step.record = Gap{};
+  if (!lengthWasUnknown_) {
+    step.flaws.push_back(
+        {0, Rule::kTag,
+         "no record begins with " + start + "; " + counted(step.bytes, "byte") + " passed over"});
+  }
+  lengthWasUnknown_ = false;
+  return step;
 }
 
-bool RecordReader::readRest(std::size_t length) {
-  const std::size_t rest = length - sizeof(Tag);
-  return read(std::span(record_).subspan(sizeof(Tag), rest)) == rest;
-}
-
-Trouble RecordReader::endsInside(const char* what, std::size_t length) const {
-  return {offset_, "the stream ends after " + std::to_string(offset_ - recordOffset_) + " of the " +
-                       what + " record's " + std::to_string(length) + " bytes"};
-}
-
-Trouble RecordReader::lengthIsWrong(const char* what, std::uint32_t length) const {
-  return {recordOffset_ + kRecordLengthOffset,
-          std::string("the ") + what + " record says that it is " + std::to_string(length) +
-              " bytes long, which it never is"};
+std::optional<RecordStep> RecordReader::readEnd() {
+  finished_ = true;
+  if (ended_ || !foundRecord_) {
+    return std::nullopt;
+  }
+  RecordStep step;
+  step.offset = source_.offset();
+  step.record = BrokenOff{};
+  step.flaws.push_back({0, Rule::kEndMark, "the stream ends without the end-of-job mark (JIDG)"});
+  return step;
 }
 
 }  // namespace gdi::reader

@@ -1,9 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The rasterToGDI authors
 // SPDX-License-Identifier: Apache-2.0
 
-// The walk through a job stream from record to record, with the order of records checked.
+// The walk through a job stream from record to record. Where no record begins, it looks for the
+// next one and goes on there: whatever the stream holds, every byte is part of one step.
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <istream>
 #include <optional>
@@ -12,64 +14,83 @@
 #include <variant>
 #include <vector>
 
+#include "reader/ByteSource.h"
+#include "reader/record_search.h"
 #include "reader/records.h"
+#include "reader/rules.h"
 
 namespace gdi::reader {
 
-// Something wrong with the stream, in one line without line feed.
-struct Trouble {
-  std::uint64_t offset = 0;  // bytes from the start of the input
-  std::string text;
-  bool note = false;  // worth telling, and yet the stream is as it should be
+// What comes ahead of the first record; possibly nothing.
+struct Prologue {
+  std::vector<std::uint8_t> start;  // its first bytes, at most kSkippedBytesKept
+  bool asExpected = false;          // it is as long as the caller said
 };
 
 // A band record with the band data that followed it.
 struct Band {
   BandRecord record;
-  std::optional<Ink> ink;          // none when all four length slots are 0: nothing followed
-  std::vector<std::uint8_t> data;  // compressed bytes
+  // None when no length slot is used, and nothing followed, or when more than one is.
+  std::optional<Ink> ink;
+  std::vector<std::uint8_t> data;  // compressed bytes; empty when there are none that can be read
 };
 
-struct EndOfJob {};  // the end-of-job mark, with nothing behind it
+struct EndOfJob {};  // the end-of-job mark
 
-using Record = std::variant<JobRecord, HostRecord, PageRecord, Band, EndOfJob, Trouble>;
+// Bytes that are part of no record.
+struct Gap {};
+
+// The stream's end where it should not be: inside a record, or without the end-of-job mark.
+struct BrokenOff {};
+
+struct RecordStep {
+  std::uint64_t offset = 0;  // bytes from the start of the input
+  std::uint64_t bytes = 0;   // of the record, its band data included
+  std::variant<Prologue, JobRecord, HostRecord, PageRecord, Band, EndOfJob, Gap, BrokenOff> record;
+  std::vector<std::uint8_t> header;  // the record as it stands, without band data
+  std::vector<Flaw> flaws;           // what is wrong with it by itself, offsets from its start
+};
 
 class RecordReader {
  public:
-  // `input` stays the caller's and must outlive the reader.
-  explicit RecordReader(std::istream& input) : input_(input) {}
+  // `input` stays the caller's and must outlive the reader. prologueBytes: how long the prologue
+  // should be, when the caller knows; otherwise, and when there is no record there, it is searched
+  // for its end.
+  explicit RecordReader(std::istream& input, std::optional<std::uint64_t> prologueBytes = {})
+      : source_(input), expectedPrologue_(prologueBytes) {}
 
-  // The next record. The first call passes over the prologue. The last record is EndOfJob or a
-  // Trouble (the walk cannot go on from there); nothing comes after it.
-  std::optional<Record> next();
+  // The next step; nothing behind the last one. The first is the prologue.
+  std::optional<RecordStep> next();
 
-  // Where the record last given starts, bytes.
-  [[nodiscard]] std::uint64_t recordOffset() const { return recordOffset_; }
-  // Bytes ahead of the first record, once that was read.
-  [[nodiscard]] std::uint64_t prologueBytes() const { return prologueBytes_; }
+  // A record was found: the input is a job stream, however broken.
+  [[nodiscard]] bool foundRecord() const { return foundRecord_; }
+  // The input could not be read to its end.
+  [[nodiscard]] bool failed() const { return source_.failed(); }
+  // Bytes read so far.
+  [[nodiscard]] std::uint64_t offset() const { return source_.offset(); }
 
  private:
-  enum class Expecting : std::uint8_t { kPrologue, kHost, kPageOrEnd, kBandPageOrEnd, kNothing };
+  enum class Expecting : std::uint8_t { kJob, kHost, kPageOrEnd, kBandPageOrEnd };
 
-  Record skipPrologue();
-  Record readRecord();
-  Record readJob();
-  Record readHost();
-  Record readPage();
-  Record readBand();
-  Record readEnd();
-  // Reads up to bytes.size() bytes; answers how many there were.
-  std::size_t read(std::span<std::uint8_t> bytes);
-  // Reads the rest of a record whose tag is in record_; false when the input ends first.
-  bool readRest(std::size_t length);
-  Trouble endsInside(const char* what, std::size_t length) const;
-  Trouble lengthIsWrong(const char* what, std::uint32_t length) const;
+  RecordStep readPrologue();
+  bool prologueIsAsExpected(Prologue& prologue);
+  RecordStep readRecord(RecordKind kind);
+  void checkOrder(RecordKind kind, RecordStep& step);
+  void readBandData(Band& band, RecordStep& step);
+  void cutToNextRecord(Band& band, RecordStep& step);
+  RecordStep readGap();
+  std::optional<RecordStep> readEnd();
 
-  std::istream& input_;
-  Expecting expecting_ = Expecting::kPrologue;
-  std::uint64_t offset_ = 0;
-  std::uint64_t recordOffset_ = 0;
-  std::uint64_t prologueBytes_ = 0;
+  ByteSource source_;
+  std::optional<std::uint64_t> expectedPrologue_;
+  Expecting expecting_ = Expecting::kJob;
+  bool started_ = false;
+  bool finished_ = false;
+  bool foundRecord_ = false;
+  bool ended_ = false;             // an end-of-job mark came, and nothing behind it yet
+  bool toldWhatFollows_ = false;   // that something follows the end-of-job mark
+  bool lengthWasUnknown_ = false;  // of the band just read: bytes of it may follow
+  unsigned shortenedBands_ = 0;
   std::array<std::uint8_t, host_record::kLength> record_{};  // the longest record
 };
 

@@ -20,20 +20,50 @@ constexpr std::array<std::pair<Ink, std::uint32_t>, kInkCount> kStep{{
 
 }  // namespace
 
-std::optional<Ink> nextInWriterOrder(const BandCounts& arrived, std::uint32_t bandsPerPlane) {
-  BandCounts sent{};
-  for (std::uint32_t step = 0; step < bandsPerPlane + kYellowLag; ++step) {
-    for (const auto& [ink, lag] : kStep) {
-      if (step < lag || step - lag >= bandsPerPlane) {
-        continue;
+std::optional<Ink> BandOrder::expected() const {
+  if (step_ >= bandsPerPlane_ + kYellowLag) {
+    return std::nullopt;
+  }
+  return kStep[place_].first;
+}
+
+bool BandOrder::take(Ink ink) {
+  if (expected() == ink) {
+    advance();
+    return true;
+  }
+  if (passedOver_[indexOf(ink)] > 0) {
+    --passedOver_[indexOf(ink)];
+    return true;
+  }
+  // The plane's next band is at most a step away, unless it has none left.
+  const BandOrder here = *this;
+  for (std::size_t i = 0; i < kInkCount && expected() && expected() != ink; ++i) {
+    ++passedOver_[indexOf(*expected())];
+    advance();
+  }
+  if (expected() == ink) {
+    advance();
+  } else {
+    *this = here;
+  }
+  return false;
+}
+
+void BandOrder::advance() {
+  ++place_;
+  findBand();
+}
+
+void BandOrder::findBand() {
+  for (; step_ < bandsPerPlane_ + kYellowLag; ++step_, place_ = 0) {
+    for (; place_ < kInkCount; ++place_) {
+      const std::uint32_t lag = kStep[place_].second;
+      if (step_ >= lag && step_ - lag < bandsPerPlane_) {
+        return;
       }
-      if (sent == arrived) {
-        return ink;
-      }
-      ++sent[indexOf(ink)];
     }
   }
-  return std::nullopt;
 }
 
 BandCounts bandsOfSteps(std::uint32_t steps, std::uint32_t bandsPerPlane) {

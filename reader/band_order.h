@@ -12,12 +12,33 @@
 
 namespace gdi::reader {
 
-// Bands of each plane that have arrived, indexed by indexOf(ink).
+// Bands of each plane, indexed by indexOf(ink).
 using BandCounts = std::array<std::uint32_t, kInkCount>;
 
-// The plane whose band is next on a colour page of `bandsPerPlane` bands a plane, when the bands
-// that have arrived did so in the writer's order; nothing when they did not or all are there.
-std::optional<Ink> nextInWriterOrder(const BandCounts& arrived, std::uint32_t bandsPerPlane);
+// The bands of a colour page, followed as they come.
+class BandOrder {
+ public:
+  // bandsPerPlane: at most 65,536.
+  explicit BandOrder(std::uint32_t bandsPerPlane) : bandsPerPlane_(bandsPerPlane) { findBand(); }
+
+  // The plane whose band is next; nothing once all have come.
+  [[nodiscard]] std::optional<Ink> expected() const;
+
+  // A band of that plane has come. True when it is the next one, or one that was passed over
+  // before: whoever comes early is out of order, not those that it overtook. A band that is not the
+  // next one moves the order on to it, so that a lost band is told once.
+  bool take(Ink ink);
+
+ private:
+  void advance();
+  // Moves on to the next place that has a band.
+  void findBand();
+
+  std::uint32_t bandsPerPlane_;
+  std::uint32_t step_ = 0;
+  std::size_t place_ = 0;  // in the step
+  BandCounts passedOver_{};
+};
 
 // The bands of each plane that the first `steps` steps of such a page send.
 BandCounts bandsOfSteps(std::uint32_t steps, std::uint32_t bandsPerPlane);

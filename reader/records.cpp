@@ -33,13 +33,40 @@ const char* nameOf(Ink ink) {
   return "black";
 }
 
+std::size_t lengthOffsetOf(Ink ink) {
+  switch (ink) {
+    case Ink::kCyan:
+      return band_record::kCyanLengthOffset;
+    case Ink::kMagenta:
+      return band_record::kMagentaLengthOffset;
+    case Ink::kYellow:
+      return band_record::kYellowLengthOffset;
+    case Ink::kBlack:
+      break;
+  }
+  return band_record::kBlackLengthOffset;
+}
+
+std::optional<Ink> BandRecord::ink() const {
+  std::optional<Ink> used;
+  for (const Ink ink : kInks) {
+    if (lengths[indexOf(ink)] != 0) {
+      if (used) {
+        return std::nullopt;
+      }
+      used = ink;
+    }
+  }
+  return used;
+}
+
 JobRecord parseJobRecord(std::span<const std::uint8_t> bytes) {
   JobRecord record;
   record.length = bigEndian32(bytes, kRecordLengthOffset);
   record.copies = bigEndian16(bytes, job_record::kCopiesOffset);
   record.hostRecordLength = bigEndian16(bytes, job_record::kHostRecordLengthOffset);
   record.packedDate = bigEndian32(bytes, job_record::kDateOffset);
-  record.color = bytes[job_record::kColorOffset] != 0;
+  record.colorFlag = bytes[job_record::kColorOffset];
   record.bitsPerPixel = bytes[job_record::kBitsPerPixelMinus1Offset] + 1U;
   record.name = text(bytes, job_record::kJobNameOffset);
   return record;
@@ -72,10 +99,9 @@ PageRecord parsePageRecord(std::span<const std::uint8_t> bytes) {
 BandRecord parseBandRecord(std::span<const std::uint8_t> bytes) {
   BandRecord record;
   record.flags = bigEndian32(bytes, band_record::kFlagsOffset);
-  record.lengths[indexOf(Ink::kCyan)] = bigEndian32(bytes, band_record::kCyanLengthOffset);
-  record.lengths[indexOf(Ink::kMagenta)] = bigEndian32(bytes, band_record::kMagentaLengthOffset);
-  record.lengths[indexOf(Ink::kYellow)] = bigEndian32(bytes, band_record::kYellowLengthOffset);
-  record.lengths[indexOf(Ink::kBlack)] = bigEndian32(bytes, band_record::kBlackLengthOffset);
+  for (const Ink ink : kInks) {
+    record.lengths[indexOf(ink)] = bigEndian32(bytes, lengthOffsetOf(ink));
+  }
   record.rowBits = bigEndian16(bytes, band_record::kRowBitsOffset);
   record.rows = bigEndian16(bytes, band_record::kRowsOffset);
   record.pageBlank = bytes[band_record::kBlankPageOffset] != 0;

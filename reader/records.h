@@ -7,6 +7,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <string>
 
@@ -25,15 +26,22 @@ inline constexpr std::size_t indexOf(Ink ink) {
 }
 // "cyan", "magenta", "yellow" or "black".
 const char* nameOf(Ink ink);
+// Where a band record has the length of that plane's band.
+std::size_t lengthOffsetOf(Ink ink);
+
+// Pixels have 1, 2 or 4 bits.
+inline constexpr bool isBitsPerPixel(unsigned bits) {
+  return bits == 1 || bits == 2 || bits == 4;
+}
 
 struct JobRecord {
   std::uint32_t length = 0;  // bytes, as the record says
   std::uint16_t copies = 0;
   std::uint16_t hostRecordLength = 0;  // bytes
   std::uint32_t packedDate = 0;
-  bool color = false;         // written before the first page is known: tells nothing
-  unsigned bitsPerPixel = 0;  // 1 to 256
-  std::string name;           // at most 64 bytes
+  std::uint8_t colorFlag = 0;  // written before the first page is known: tells nothing
+  unsigned bitsPerPixel = 0;   // 1 to 256
+  std::string name;            // at most 64 bytes
 };
 
 struct HostRecord {
@@ -63,6 +71,8 @@ struct BandRecord {
   std::uint16_t rows = 0;
   bool pageBlank = false;
 
+  // The plane whose length slot is used; none when none is, or more than one.
+  [[nodiscard]] std::optional<Ink> ink() const;
   [[nodiscard]] bool first() const { return (flags & band_record::kFirstBandFlag) != 0; }
   [[nodiscard]] bool last() const { return (flags & band_record::kLastBandFlag) != 0; }
 };

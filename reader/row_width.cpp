@@ -16,14 +16,15 @@ std::uint64_t distance(std::uint64_t a, std::uint64_t b) {
 
 }  // namespace
 
-std::uint64_t pixelsOnPaper(const PageRecord& record) {
-  return (std::uint64_t{record.widthMicrometres} * kPixelsPerInch + kMicrometresPerInch / 2) /
+std::uint64_t pixelsOnPaper(std::uint32_t micrometres) {
+  return (std::uint64_t{micrometres} * kPixelsPerInch + kMicrometresPerInch / 2) /
          kMicrometresPerInch;
 }
 
 std::uint32_t likelyRowBits(const PageRecord& record, unsigned bitsPerPixel) {
   std::uint32_t likely = record.rowBits == 0 ? kToldBits : record.rowBits;
-  const std::uint64_t onPaper = pixelsOnPaper(record) * bitsPerPixel + kRowSlackBits;
+  const std::uint64_t onPaper =
+      pixelsOnPaper(record.widthMicrometres) * bitsPerPixel + kRowSlackBits;
   if (onPaper == kRowSlackBits || onPaper > kMaxRowBits) {
     return likely;
   }

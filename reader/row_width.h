@@ -12,9 +12,11 @@
 namespace gdi::reader {
 
 inline constexpr std::uint32_t kPixelsPerInch = 600;
+// The paper's size is told in whole points, so the raster may be larger than it by this much.
+inline constexpr std::uint32_t kPixelsPerPoint = 9;
 
-// The paper's width in pixels, to the nearest; 0 when the page record tells none.
-std::uint64_t pixelsOnPaper(const PageRecord& record);
+// A length on paper in pixels, to the nearest.
+std::uint64_t pixelsOnPaper(std::uint32_t micrometres);
 
 // Of the lengths with the page record's low 16 bits, 1 to kMaxRowBits, the one that is nearest to
 // the paper's width; the shortest when the paper is of no width or wider than any row.

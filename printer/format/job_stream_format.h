@@ -18,6 +18,12 @@ inline constexpr std::size_t kTagOffset = 0;
 inline constexpr std::size_t kRecordLengthOffset = 4;  // of job, host and page records
 inline constexpr std::size_t kTextBytes = 64;          // job, host and user name fields
 
+// Bytes of a record that are written as zero.
+struct ZeroField {
+  std::size_t offset;
+  std::size_t bytes;
+};
+
 // Job record: once, ahead of the first page.
 namespace job_record {
 inline constexpr Tag kTag{'G', 'D', 'I', 'J'};
@@ -31,9 +37,12 @@ inline constexpr std::size_t kColorOffset = 24;             // 1 = colour
 inline constexpr std::size_t kConstant1Offset = 32;
 inline constexpr std::uint8_t kConstant1 = 0x01;
 inline constexpr std::size_t kBitsPerPixelMinus1Offset = 33;
+inline constexpr std::size_t kConstant0Offset = 34;
+inline constexpr std::uint8_t kConstant0 = 0x00;
 inline constexpr std::size_t kConstant2Offset = 35;
 inline constexpr std::uint8_t kConstant2 = 0x02;
 inline constexpr std::size_t kJobNameOffset = 56;
+inline constexpr std::array<ZeroField, 3> kZeroFields{{{12, 6}, {25, 7}, {36, 20}}};
 }  // namespace job_record
 
 // Host record: follows the job record.
@@ -42,6 +51,7 @@ inline constexpr Tag kTag{'G', 'J', 'E', 'T'};
 inline constexpr std::size_t kLength = 152;
 inline constexpr std::size_t kHostNameOffset = 8;
 inline constexpr std::size_t kUserNameOffset = 72;
+inline constexpr std::array<ZeroField, 1> kZeroFields{{{136, 16}}};
 }  // namespace host_record
 
 // Page record: ahead of each page's bands.
@@ -60,6 +70,7 @@ inline constexpr std::size_t kPageNumberOffset = 34;  // 16 bits, from 0
 inline constexpr std::size_t kBandCountOffset = 54;   // 16 bits
 inline constexpr std::size_t kWidthOffset = 56;       // 32 bits, micrometres
 inline constexpr std::size_t kHeightOffset = 60;      // 32 bits, micrometres
+inline constexpr std::array<ZeroField, 3> kZeroFields{{{11, 1}, {16, 16}, {36, 18}}};
 }  // namespace page_record
 
 // Band record: ahead of each compressed band. It carries no length of its own; the one non-zero
@@ -77,6 +88,7 @@ inline constexpr std::size_t kCyanLengthOffset = 20;
 inline constexpr std::size_t kRowBitsOffset = 24;  // 16 bits
 inline constexpr std::size_t kRowsOffset = 26;     // 16 bits
 inline constexpr std::size_t kBlankPageOffset = 30;
+inline constexpr std::array<ZeroField, 2> kZeroFields{{{28, 2}, {31, 1}}};
 }  // namespace band_record
 
 // End-of-job mark: a tag without fields.

@@ -22,7 +22,7 @@ TEST(Records, AJobRecordGivesItsFields) {
   EXPECT_EQ(record.copies, 3);
   EXPECT_EQ(record.hostRecordLength, 152);
   EXPECT_EQ(record.packedDate, 15U << 27 | 11U << 23 | 46U << 16 | 18U << 11 | 54U << 5 | 21U);
-  EXPECT_FALSE(record.color);
+  EXPECT_FALSE(record.colorFlag);
   EXPECT_EQ(record.bitsPerPixel, 4U);
   EXPECT_EQ(record.name, "Report");
 }

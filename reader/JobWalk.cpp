@@ -1,0 +1,132 @@
+// SPDX-FileCopyrightText: 2026 The rasterToGDI authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "reader/JobWalk.h"
+
+#include <utility>
+
+namespace gdi::reader {
+
+namespace {
+
+// The filler page completes a two-sided job of two pages or more.
+constexpr std::uint32_t kFirstFillerPage = 3;
+
+bool endsPage(const RecordStep& step) {
+  return std::holds_alternative<JobRecord>(step.record) ||
+         std::holds_alternative<PageRecord>(step.record) ||
+         std::holds_alternative<EndOfJob>(step.record) ||
+         std::holds_alternative<BrokenOff>(step.record);
+}
+
+const char* nameOf(const RecordStep& step) {
+  struct Names {
+    const char* operator()(const Prologue&) const { return "prologue"; }
+    const char* operator()(const JobRecord&) const { return "job record"; }
+    const char* operator()(const HostRecord&) const { return "host record"; }
+    const char* operator()(const PageRecord&) const { return "page record"; }
+    const char* operator()(const Band&) const { return "band record"; }
+    const char* operator()(const EndOfJob&) const { return "end-of-job mark"; }
+    const char* operator()(const Gap&) const { return "no record"; }
+    const char* operator()(const BrokenOff&) const { return "end of the stream"; }
+  };
+  return std::visit(Names{}, step.record);
+}
+
+}  // namespace
+
+JobWalk::JobWalk(std::istream& input, FindingSink tell, std::optional<std::uint64_t> prologueBytes)
+    : records_(input, prologueBytes), sink_(std::move(tell)) {
+}
+
+std::optional<JobStep> JobWalk::next() {
+  std::optional<RecordStep> step = records_.next();
+  if (!step) {
+    return std::nullopt;
+  }
+  JobStep job;
+  job.step = std::move(*step);
+  totals_.bytes = job.step.offset + job.step.bytes;
+  if (page_ && endsPage(job.step)) {
+    endPage(job);
+  }
+  if (const auto* band = std::get_if<Band>(&job.step.record); band != nullptr && page_) {
+    totals_.compressedBytes += band->data.size();
+    const BandVerdict verdict = page_->addBand(*band, job.step.offset, job.step.flaws);
+    job.page = totals_.pages;
+    job.place = verdict.place;
+    job.sound = verdict.sound;
+    job.rowBytes = page_->summary().rowBits / 8;
+    return job;
+  }
+  if (const auto* page = std::get_if<PageRecord>(&job.step.record)) {
+    startPage(*page, job);
+    return job;
+  }
+  tellFlaws(job, nameOf(job.step));
+  if (const auto* record = std::get_if<JobRecord>(&job.step.record)) {
+    bitsPerPixel_ = isBitsPerPixel(record->bitsPerPixel) ? record->bitsPerPixel : 1;
+    nextNumber_ = 0;
+    if (totals_.job.empty()) {
+      totals_.job = job.step.header;
+    }
+  } else if (std::holds_alternative<HostRecord>(job.step.record) && totals_.host.empty()) {
+    totals_.host = job.step.header;
+  }
+  return job;
+}
+
+// A stream that breaks off has told why its page is short.
+void JobWalk::endPage(JobStep& job) {
+  const bool brokenOff = std::holds_alternative<BrokenOff>(job.step.record) &&
+                         !(page_->closed() && job.step.flaws.front().rule == Rule::kEndMark);
+  job.endedPage = page_->finish(brokenOff);
+  page_.reset();
+  if (std::exchange(numberLeftOut_, false) && !brokenOff) {
+    checkFiller(*job.endedPage, !std::holds_alternative<PageRecord>(job.step.record));
+  }
+}
+
+void JobWalk::startPage(const PageRecord& record, JobStep& job) {
+  job.page = ++totals_.pages;
+  tellFlaws(job, ("page " + std::to_string(job.page)).c_str());
+  checkNumber(record, job.step.offset);
+  page_.emplace(record, job.page, job.step.offset, bitsPerPixel_,
+                [this](const Finding& finding) { tell(finding); });
+}
+
+void JobWalk::checkNumber(const PageRecord& record, std::uint64_t offset) {
+  const std::uint16_t expected = nextNumber_;
+  nextNumber_ = static_cast<std::uint16_t>(record.number + 1);
+  numberLeftOut_ = totals_.pages >= kFirstFillerPage &&
+                   record.number == static_cast<std::uint16_t>(expected + 1);
+  if (record.number != expected && !numberLeftOut_) {
+    tell({offset + page_record::kPageNumberOffset, Rule::kPageNumber,
+          "page " + std::to_string(totals_.pages),
+          "the page's number is " + std::to_string(record.number) + ", not " +
+              std::to_string(expected)});
+  }
+}
+
+// docs/quirks.md, "The filler page's number"
+void JobWalk::checkFiller(const PageSummary& page, bool last) {
+  const bool mayBeBlank = page.flaggedBlank || !page.inked;
+  if (!last || !mayBeBlank) {
+    tell({page.offset + page_record::kPageNumberOffset, Rule::kPageNumber,
+          "page " + std::to_string(page.ordinal),
+          "the page's number leaves one out, and it is no blank page at the job's end"});
+  }
+}
+
+void JobWalk::tellFlaws(const JobStep& job, const char* record) {
+  for (const Flaw& flaw : job.step.flaws) {
+    tell({job.step.offset + flaw.offset, flaw.rule, record, flaw.text});
+  }
+}
+
+void JobWalk::tell(const Finding& finding) {
+  ++(finding.remark() ? totals_.remarks : totals_.violations);
+  sink_(finding);
+}
+
+}  // namespace gdi::reader

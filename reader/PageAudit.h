@@ -1,0 +1,77 @@
+// SPDX-FileCopyrightText: 2026 The rasterToGDI authors
+// SPDX-License-Identifier: Apache-2.0
+
+// One page held against the format, band by band as its bands come. Nothing of a band is kept.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <string>
+
+#include "reader/Page.h"
+#include "reader/RecordReader.h"
+#include "reader/band_data.h"
+#include "reader/band_order.h"
+#include "reader/rules.h"
+
+namespace gdi::reader {
+
+struct BandVerdict {
+  std::optional<BandPlace> place;  // none: the band has no place on the page
+  bool sound = false;              // its rows can be decoded
+};
+
+class PageAudit {
+ public:
+  // The record is checked here as far as it has to fit the page; its own flaws are the caller's.
+  // offset: of the record. bitsPerPixel: 1, 2 or 4.
+  PageAudit(const PageRecord& record, std::uint32_t ordinal, std::uint64_t offset,
+            unsigned bitsPerPixel, FindingSink tell);
+
+  // A band record with its flaws, which stands at `offset`.
+  BandVerdict addBand(const Band& band, std::uint64_t offset, std::span<const Flaw> flaws);
+
+  // The page is over. brokenOff: the stream ends inside it, and what is missing is not told.
+  PageSummary finish(bool brokenOff);
+
+  [[nodiscard]] const PageSummary& summary() const { return summary_; }
+  // The page's last band has come.
+  [[nodiscard]] bool closed() const { return closed_; }
+
+ private:
+  [[nodiscard]] bool hasPlane(Ink ink) const;
+  // Its place on the page, which counts from now on.
+  BandPlace placeOf(Ink ink, const Band& band);
+  void checkPlace(const Band& band, BandPlace place);
+  void checkFlags(const BandRecord& record, BandPlace place);
+  bool checkData(const Band& band);
+  BandDataReport examine(const Band& band);
+  // The rows of a page that ends after as many steps as it had; nothing when it does not end so.
+  [[nodiscard]] std::optional<std::uint32_t> rowsWithStepsLeftOut() const;
+  void checkRows(std::uint64_t rows);
+  void checkBandCount(std::uint64_t rows);
+  void checkBlankness();
+  void checkPaperSize(std::uint64_t rows);
+  void tell(std::uint64_t offset, Rule rule, std::string text) const;
+  void tellOfPage(std::size_t offset, Rule rule, std::string text) const;
+
+  FindingSink sink_;
+  PageSummary summary_;
+  std::string pageName_;
+  std::string recordName_;           // of what is being looked at
+  std::uint64_t bandOffset_ = 0;     // of the band record that is being looked at
+  std::uint32_t rowsTold_ = 0;       // by rows and bands of the page record together
+  bool bandCountIsPossible_ = true;  // for some number of rows with the told low 16 bits
+  BandOrder order_;
+  // Of each plane the band of less than kBandHeight rows that came last.
+  struct ShortBand {
+    std::uint64_t offset = 0;
+    std::uint32_t rows = 0;
+  };
+  std::array<std::optional<ShortBand>, kInkCount> shortBands_;
+  bool closed_ = false;
+};
+
+}  // namespace gdi::reader

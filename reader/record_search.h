@@ -1,0 +1,26 @@
+// SPDX-FileCopyrightText: 2026 The rasterToGDI authors
+// SPDX-License-Identifier: Apache-2.0
+
+// Looking for the next record where none begins.
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+#include "reader/ByteSource.h"
+#include "reader/record_start.h"
+
+namespace gdi::reader {
+
+struct SkippedBytes {
+  std::uint64_t count = 0;
+  std::vector<std::uint8_t> start;  // the first of them, at most kSkippedBytesKept
+  bool foundRecord = false;         // false: the input came to its end
+};
+inline constexpr std::size_t kSkippedBytesKept = 1024;
+
+// Passes over bytes up to where a record begins: one that kindOfStart() knows, a job record of
+// another length with its host record behind it, or an end-of-job mark that ends the input.
+SkippedBytes skipToRecord(ByteSource& source);
+
+}  // namespace gdi::reader

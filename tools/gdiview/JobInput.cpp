@@ -1,0 +1,121 @@
+// SPDX-FileCopyrightText: 2026 The rasterToGDI authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "tools/gdiview/JobInput.h"
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <iostream>
+#include <string_view>
+#include <system_error>
+
+#include "platform/NSBundle.h"
+
+namespace gdi::gdiview {
+
+namespace {
+
+struct FileKind {
+  std::string_view start;
+  const char* name;
+};
+
+// What people hand over by mistake.
+constexpr std::array<FileKind, 11> kOtherFiles{{
+    {"\x89PNG", "a PNG picture"},
+    {"%PDF", "a PDF document"},
+    {"%!", "a PostScript document"},
+    {"RaSt", "a CUPS raster"},
+    {"RaS2", "a CUPS raster"},
+    {"RaS3", "a CUPS raster"},
+    {"tSaR", "a CUPS raster"},
+    {"2SaR", "a CUPS raster"},
+    {"3SaR", "a CUPS raster"},
+    {"\x1f\x8b", "a gzip file"},
+    {"PK\x03\x04", "a ZIP file"},
+}};
+
+std::string startsLike(const reader::Prologue& prologue) {
+  for (const FileKind& kind : kOtherFiles) {
+    if (prologue.start.size() >= kind.start.size() &&
+        std::equal(kind.start.begin(), kind.start.end(), prologue.start.begin(),
+                   [](char a, std::uint8_t b) { return static_cast<std::uint8_t>(a) == b; })) {
+      return std::string(": it begins like ") + kind.name;
+    }
+  }
+  return ": it holds no record of one";
+}
+
+// Of text in UTF-8; one of more than 16 bits counts two.
+std::uint64_t utf16Units(std::string_view text) {
+  std::uint64_t units = 0;
+  for (const char character : text) {
+    const auto byte = static_cast<std::uint8_t>(character);
+    const bool begins = (byte & 0xC0U) != 0x80U;
+    units += begins ? (byte >= 0xF0 ? 2U : 1U) : 0U;
+  }
+  return units;
+}
+
+}  // namespace
+
+JobInput::JobInput(const std::string& name) : name_(name), stream_(&file_) {
+  if (name == "-") {
+    stream_ = &std::cin;
+    return;
+  }
+  errno = 0;
+  file_.open(name, std::ios::binary);
+  error_ = file_ ? 0 : errno;
+  std::error_code unknown;
+  if (std::filesystem::is_regular_file(name, unknown)) {
+    size_ = std::filesystem::file_size(name, unknown);
+  }
+}
+
+bool JobInput::isOpen(std::ostream& errors) const {
+  if (error_ != 0) {
+    errors << "gdiview: " << name_ << ": " << std::generic_category().message(error_) << '\n';
+  }
+  return error_ == 0;
+}
+
+// docs/quirks.md, "The prologue is counted in UTF-16 units"
+std::optional<std::uint64_t> prologueBytesOf(
+    const std::optional<std::filesystem::path>& resources) {
+  NSBundle bundle(resources.value_or(NSBundle::mainBundle().resourcePath()));
+  const std::optional<std::string> text = bundle.objectForInfoDictionaryKey("CUPSFileHeader");
+  if (!text) {
+    return std::nullopt;
+  }
+  return std::min<std::uint64_t>(utf16Units(*text), text->size());
+}
+
+bool isJobStream(const reader::JobWalk& walk, const reader::Prologue& start,
+                 const std::string& name, std::ostream& errors) {
+  if (walk.failed()) {
+    errors << "gdiview: " << name << ": the input cannot be read beyond offset " << walk.offset()
+           << '\n';
+    return false;
+  }
+  if (!walk.foundRecord()) {
+    errors << "gdiview: " << name
+           << (walk.offset() == 0 ? ": the input is empty"
+                                  : ": this is no job stream" + startsLike(start))
+           << '\n';
+  }
+  return walk.foundRecord();
+}
+
+int statusAfterWriting(std::ostream& out, int status, std::ostream& errors) {
+  errno = 0;
+  if (out.flush()) {
+    return status;
+  }
+  errors << "gdiview: the report cannot be written: "
+         << std::generic_category().message(errno == 0 ? EIO : errno) << '\n';
+  return kUnusable;
+}
+
+}  // namespace gdi::gdiview

@@ -1,0 +1,60 @@
+// SPDX-FileCopyrightText: 2026 The rasterToGDI authors
+// SPDX-License-Identifier: Apache-2.0
+
+// The job stream that the user named, a file or standard input, and what to say when it is none.
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <fstream>
+#include <istream>
+#include <optional>
+#include <ostream>
+#include <string>
+
+#include "reader/JobWalk.h"
+
+namespace gdi::gdiview {
+
+// Exit statuses of every command.
+inline constexpr int kSound = 0;
+inline constexpr int kFaulty = 1;    // violations; for diff: differences
+inline constexpr int kUnusable = 2;  // no job stream, or something cannot be read or written
+
+class JobInput {
+ public:
+  // A stream of the caller's, which must outlive this.
+  JobInput(std::istream& stream, std::string name) : name_(std::move(name)), stream_(&stream) {}
+  // The file of that name, or standard input for "-".
+  explicit JobInput(const std::string& name);
+  JobInput(const JobInput&) = delete;
+  JobInput& operator=(const JobInput&) = delete;
+
+  // False when the file cannot be opened; the line that says so has been written then.
+  [[nodiscard]] bool isOpen(std::ostream& errors) const;
+  [[nodiscard]] std::istream& stream() { return *stream_; }
+  [[nodiscard]] const std::string& name() const { return name_; }
+  // Of a regular file, bytes.
+  [[nodiscard]] std::optional<std::uint64_t> size() const { return size_; }
+
+ private:
+  std::string name_;
+  std::ifstream file_;
+  std::istream* stream_;
+  int error_ = 0;
+  std::optional<std::uint64_t> size_;
+};
+
+// Bytes of the prologue that a filter with these resources sends; the resources are those beside
+// the program or installed with it when no folder is given. Nothing when there are none.
+std::optional<std::uint64_t> prologueBytesOf(const std::optional<std::filesystem::path>& resources);
+
+// Whether the walk, which is over, has seen a job stream. If not, one line says what there was
+// instead: that the input cannot be read, that it is empty, or what it looks like.
+bool isJobStream(const reader::JobWalk& walk, const reader::Prologue& start,
+                 const std::string& name, std::ostream& errors);
+
+// `status`, or kUnusable with a line when what was written to `out` got lost.
+int statusAfterWriting(std::ostream& out, int status, std::ostream& errors);
+
+}  // namespace gdi::gdiview

@@ -1,0 +1,39 @@
+// SPDX-FileCopyrightText: 2026 The rasterToGDI authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "tools/gdiview/check_job.h"
+
+#include "reader/JobWalk.h"
+#include "reader/counted.h"
+
+namespace gdi::gdiview {
+
+int checkJob(JobInput& input, const CheckOptions& options, std::ostream& out,
+             std::ostream& errors) {
+  const auto tell = [&](const reader::Finding& finding) {
+    if (!options.quiet || !finding.remark()) {
+      out << input.name() << ": " << reader::lineOf(finding) << '\n';
+    }
+  };
+  reader::JobWalk walk(input.stream(), tell, options.prologueBytes);
+  reader::Prologue prologue;
+  std::uint64_t bands = 0;
+  while (std::optional<reader::JobStep> job = walk.next()) {
+    bands += std::holds_alternative<reader::Band>(job->step.record) ? 1 : 0;
+    if (auto* start = std::get_if<reader::Prologue>(&job->step.record)) {
+      prologue = std::move(*start);
+    }
+  }
+  if (!isJobStream(walk, prologue, input.name(), errors)) {
+    return statusAfterWriting(out, kUnusable, errors);
+  }
+  const reader::JobTotals& totals = walk.totals();
+  if (!options.quiet) {
+    out << input.name() << ": " << reader::counted(totals.pages, "page") << ", "
+        << reader::counted(bands, "band") << ", " << reader::counted(totals.violations, "violation")
+        << ", " << reader::counted(totals.remarks, "note") << '\n';
+  }
+  return statusAfterWriting(out, totals.violations == 0 ? kSound : kFaulty, errors);
+}
+
+}  // namespace gdi::gdiview

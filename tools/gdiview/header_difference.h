@@ -1,0 +1,27 @@
+// SPDX-FileCopyrightText: 2026 The rasterToGDI authors
+// SPDX-License-Identifier: Apache-2.0
+
+// Where two records of a kind differ: in fields, which have names, or in other bytes.
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "reader/record_start.h"
+
+namespace gdi::gdiview {
+
+struct HeaderDifference {
+  std::string name;  // a field's, or "byte 28" of bytes that are no field
+  std::string a;     // what is there, with what it means
+  std::string b;
+};
+
+// In the order of the fields, then of the other bytes. requires: both are lengthOf(kind) long
+std::vector<HeaderDifference> differenceOfHeaders(reader::RecordKind kind,
+                                                  std::span<const std::uint8_t> a,
+                                                  std::span<const std::uint8_t> b);
+
+}  // namespace gdi::gdiview

@@ -1,0 +1,50 @@
+// SPDX-FileCopyrightText: 2026 The rasterToGDI authors
+// SPDX-License-Identifier: Apache-2.0
+
+// What a job stream says: its records one by one, a summary of each page and one of the job.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <ostream>
+#include <string>
+
+#include "reader/JobWalk.h"
+#include "tools/gdiview/JobInput.h"
+
+namespace gdi::gdiview {
+
+// Where the records and summaries go, in the order of the stream.
+class InfoReport {
+ public:
+  InfoReport() = default;
+  virtual ~InfoReport() = default;
+  InfoReport(const InfoReport&) = delete;
+  InfoReport& operator=(const InfoReport&) = delete;
+
+  virtual void record(const reader::JobStep& job) = 0;
+  // Behind the page's last record.
+  virtual void page(const reader::PageSummary& page) = 0;
+  // Behind the job's last record.
+  virtual void job(const reader::JobTotals& totals) = 0;
+  // Nothing more comes.
+  virtual void end() = 0;
+};
+
+// Lines for people, and one JSON document whose schema docs/gdiview.md tells. `out` must outlive
+// the report.
+std::unique_ptr<InfoReport> textReport(std::ostream& out);
+std::unique_ptr<InfoReport> jsonReport(std::ostream& out, const std::string& jobName);
+
+struct InfoOptions {
+  bool json = false;
+  bool summary = false;               // no records, the summaries alone
+  std::optional<std::uint32_t> page;  // this page alone, from 1: its records and its summary
+  std::optional<std::uint64_t> prologueBytes;
+};
+
+// Answers kSound, kFaulty when there are violations in what was shown or ahead of it, or kUnusable.
+int infoJob(JobInput& input, const InfoOptions& options, std::ostream& out, std::ostream& errors);
+
+}  // namespace gdi::gdiview

@@ -1,0 +1,103 @@
+// SPDX-FileCopyrightText: 2026 The rasterToGDI authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "tools/gdiview/png_job.h"
+
+#include "reader/JobReader.h"
+#include "reader/counted.h"
+#include "tools/gdiview/FindingLines.h"
+#include "tools/gdiview/PagePainter.h"
+#include "tools/gdiview/picture_file.h"
+
+namespace gdi::gdiview {
+
+namespace {
+
+using reader::counted;
+
+bool isTurned(const reader::Page& page, Turned turned) {
+  const bool isBack = page.record.number % 2 != 0;
+  return turned == Turned::kAll || turned == (isBack ? Turned::kBacks : Turned::kFronts);
+}
+
+void describe(const reader::Page& page, std::ostream& out) {
+  out << "page " << page.ordinal << ": " << (page.isColor() ? "4 planes (CMYK)" : "1 plane (K)")
+      << ", " << counted(page.rows(), "row") << " of " << counted(page.rowBits, "bit") << ", "
+      << counted(page.widthPixels(), "pixel") << " of " << counted(page.bitsPerPixel, "bit") << ", "
+      << counted(page.bandCount, "band") << ", "
+      << counted(page.compressedBytes, "compressed byte");
+}
+
+// The pictures of one page; false, with a line, when one cannot be written.
+bool writePage(const reader::Page& page, const PngOptions& options, std::ostream& out,
+               std::ostream& errors) {
+  const std::string name = "page-" + std::to_string(page.ordinal);
+  PaintOptions paint;
+  paint.reduction = options.reduction;
+  paint.upright = isTurned(page, options.turned);
+  const auto write = [&](const std::string& file) {
+    PagePainter painter(page, paint);
+    const std::filesystem::path path = options.folder / (file + ".png");
+    const bool written = writePicture(painter, options.reduction, path, errors);
+    out << (written ? ": " + path.string() : ", no picture") << '\n';
+    return written;
+  };
+  describe(page, out);
+  if (page.rows() == 0 || page.widthPixels() == 0) {
+    out << ", no picture\n";
+    return true;
+  }
+  if (!write(name)) {
+    return false;
+  }
+  for (const reader::Ink ink : options.planes ? page.inks() : std::span<const reader::Ink>()) {
+    paint.separation = ink;
+    out << "page " << page.ordinal << ", " << nameOf(ink);
+    if (!write(name + "-" + nameOf(ink))) {
+      return false;
+    }
+  }
+  return true;
+}
+
+}  // namespace
+
+int pngJob(JobInput& input, const PngOptions& options, Progress& progress, std::ostream& out,
+           std::ostream& errors) {
+  if (!makeFolder(options.folder, errors)) {
+    return kUnusable;
+  }
+  FindingLines lines(errors, input.name());
+  const auto tell = [&](const reader::Finding& finding) {
+    progress.clear();
+    lines.tell(finding);
+  };
+  reader::JobReader job(input.stream(), tell, options.prologueBytes);
+  bool shown = false;
+  while (const std::optional<reader::Page> page = job.nextPage()) {
+    progress.update(page->ordinal, job.walk().offset());
+    if (options.page && *options.page != page->ordinal) {
+      continue;
+    }
+    progress.clear();
+    shown = true;
+    if (!writePage(*page, options, out, errors)) {
+      return kUnusable;
+    }
+    if (options.page) {
+      break;
+    }
+  }
+  progress.clear();
+  if (!shown && !isJobStream(job.walk(), job.prologue(), input.name(), errors)) {
+    return kUnusable;
+  }
+  if (options.page && !shown) {
+    errors << "gdiview: " << input.name() << ": there is no page " << *options.page
+           << "; the job has " << job.totals().pages << '\n';
+    return kUnusable;
+  }
+  return statusAfterWriting(out, job.totals().violations == 0 ? kSound : kFaulty, errors);
+}
+
+}  // namespace gdi::gdiview
