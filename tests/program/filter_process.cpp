@@ -8,12 +8,15 @@
 #include <csignal>
 #include <fstream>
 #include <iterator>
+#include <sstream>
 #include <thread>
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/wait.h>
 #include <unistd.h>
+
+#include "reader/JobWalk.h"
 
 namespace gdi::programtest {
 
@@ -37,6 +40,28 @@ std::vector<char*> pointersTo(std::vector<std::string>& texts) {
   }
   pointers.push_back(nullptr);
   return pointers;
+}
+
+// What a job that did not end well may lack: its end, or bands of its last page.
+bool isMissingEnd(reader::Rule rule) {
+  return rule == reader::Rule::kTruncated || rule == reader::Rule::kEndMark ||
+         rule == reader::Rule::kPageRows || rule == reader::Rule::kPageEnd;
+}
+
+// Holds what the program has sent against the whole format.
+void expectKeptFormat(const FilterResult& result) {
+  const bool endedWell = result.exitStatus == 0;
+  std::string told;
+  const auto tell = [&](const reader::Finding& finding) {
+    if (!finding.remark() && (endedWell || !isMissingEnd(finding.rule))) {
+      told.append(reader::lineOf(finding)).append("\n");
+    }
+  };
+  std::istringstream stream(std::string(result.output.begin(), result.output.end()));
+  reader::JobWalk walk(stream, tell);
+  while (walk.next()) {
+  }
+  EXPECT_EQ(told, "") << "the program's own stream violates the format";
 }
 
 }  // namespace
@@ -224,6 +249,7 @@ FilterResult FilterProcess::wait() {
   for (const fs::directory_entry& entry : fs::directory_iterator(folder_ / "tmp")) {
     result.leftInTmp.push_back(entry.path().filename().string());
   }
+  expectKeptFormat(result);
   return result;
 }
 

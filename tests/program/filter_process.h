@@ -64,7 +64,8 @@ class FilterProcess {
   [[nodiscard]] std::string errorsSoFar() const;
   // Waits until standard error holds `text`; false after 20 seconds.
   [[nodiscard]] bool waitForErrors(const std::string& text) const;
-  // Waits for the end; the program is killed after 60 seconds.
+  // Waits for the end; the program is killed after 60 seconds. A stream that violates the format is
+  // a failure of the running test, whatever else the test looks at.
   FilterResult wait();
 
   FilterResult run() {
