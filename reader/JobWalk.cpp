@@ -50,8 +50,9 @@ std::optional<JobStep> JobWalk::next() {
   if (page_ && endsPage(job.step)) {
     endPage(job);
   }
-  if (const auto* band = std::get_if<Band>(&job.step.record); band != nullptr && page_) {
-    totals_.compressedBytes += band->data.size();
+  const auto* band = std::get_if<Band>(&job.step.record);
+  totals_.compressedBytes += band != nullptr ? band->data.size() : 0;
+  if (band != nullptr && page_) {
     const BandVerdict verdict = page_->addBand(*band, job.step.offset, job.step.flaws);
     job.page = totals_.pages;
     job.place = verdict.place;
@@ -65,21 +66,26 @@ std::optional<JobStep> JobWalk::next() {
   }
   tellFlaws(job, nameOf(job.step));
   if (const auto* record = std::get_if<JobRecord>(&job.step.record)) {
-    bitsPerPixel_ = isBitsPerPixel(record->bitsPerPixel) ? record->bitsPerPixel : 1;
+    bitsPerPixel_.reset();
+    if (isBitsPerPixel(record->bitsPerPixel)) {
+      bitsPerPixel_ = record->bitsPerPixel;
+    }
+    pagesOfJob_ = 0;
     nextNumber_ = 0;
     if (totals_.job.empty()) {
       totals_.job = job.step.header;
     }
   } else if (std::holds_alternative<HostRecord>(job.step.record) && totals_.host.empty()) {
     totals_.host = job.step.header;
+  } else if (std::holds_alternative<Gap>(job.step.record) && page_ && !job.step.flaws.empty()) {
+    page_->addGap();
   }
   return job;
 }
 
-// A stream that breaks off has told why its page is short.
+// A stream that breaks off has told why its page is short. A page whose last band came is not.
 void JobWalk::endPage(JobStep& job) {
-  const bool brokenOff = std::holds_alternative<BrokenOff>(job.step.record) &&
-                         !(page_->closed() && job.step.flaws.front().rule == Rule::kEndMark);
+  const bool brokenOff = std::holds_alternative<BrokenOff>(job.step.record) && !page_->closed();
   job.endedPage = page_->finish(brokenOff);
   page_.reset();
   if (std::exchange(numberLeftOut_, false) && !brokenOff) {
@@ -89,6 +95,7 @@ void JobWalk::endPage(JobStep& job) {
 
 void JobWalk::startPage(const PageRecord& record, JobStep& job) {
   job.page = ++totals_.pages;
+  ++pagesOfJob_;
   tellFlaws(job, ("page " + std::to_string(job.page)).c_str());
   checkNumber(record, job.step.offset);
   page_.emplace(record, job.page, job.step.offset, bitsPerPixel_,
@@ -98,8 +105,8 @@ void JobWalk::startPage(const PageRecord& record, JobStep& job) {
 void JobWalk::checkNumber(const PageRecord& record, std::uint64_t offset) {
   const std::uint16_t expected = nextNumber_;
   nextNumber_ = static_cast<std::uint16_t>(record.number + 1);
-  numberLeftOut_ = totals_.pages >= kFirstFillerPage &&
-                   record.number == static_cast<std::uint16_t>(expected + 1);
+  numberLeftOut_ =
+      pagesOfJob_ >= kFirstFillerPage && record.number == static_cast<std::uint16_t>(expected + 1);
   if (record.number != expected && !numberLeftOut_) {
     tell({offset + page_record::kPageNumberOffset, Rule::kPageNumber,
           "page " + std::to_string(totals_.pages),

@@ -64,8 +64,9 @@ class JobWalk {
   RecordReader records_;
   FindingSink sink_;
   JobTotals totals_;
-  unsigned bitsPerPixel_ = 1;
+  std::optional<unsigned> bitsPerPixel_;
   std::optional<PageAudit> page_;
+  std::uint32_t pagesOfJob_ = 0;  // totals_ may count those of several jobs
   std::uint16_t nextNumber_ = 0;
   bool numberLeftOut_ = false;  // by the page that is under way
 };

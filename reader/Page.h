@@ -57,6 +57,8 @@ struct PageSummary {
   [[nodiscard]] bool isColor() const { return record.channels > 1; }
   // The planes of a page, in the order of kInks: all four or black alone.
   [[nodiscard]] std::span<const Ink> inks() const;
+  // The plane that the page's last band is of.
+  [[nodiscard]] Ink lastInk() const { return isColor() ? Ink::kYellow : Ink::kBlack; }
   [[nodiscard]] const PlaneSummary& summaryOf(Ink ink) const {
     return planeSummaries[indexOf(ink)];
   }

@@ -14,6 +14,7 @@
 #include "reader/RecordReader.h"
 #include "reader/band_data.h"
 #include "reader/band_order.h"
+#include "reader/page_rules.h"
 #include "reader/rules.h"
 
 namespace gdi::reader {
@@ -26,52 +27,56 @@ struct BandVerdict {
 class PageAudit {
  public:
   // The record is checked here as far as it has to fit the page; its own flaws are the caller's.
-  // offset: of the record. bitsPerPixel: 1, 2 or 4.
+  // offset: of the record. bitsPerPixel: 1, 2 or 4; nothing when the job record does not tell.
   PageAudit(const PageRecord& record, std::uint32_t ordinal, std::uint64_t offset,
-            unsigned bitsPerPixel, FindingSink tell);
+            std::optional<unsigned> bitsPerPixel, FindingSink tell);
 
   // A band record with its flaws, which stands at `offset`.
   BandVerdict addBand(const Band& band, std::uint64_t offset, std::span<const Flaw> flaws);
+
+  // Bytes that are no record stand among the page's bands: any of these may be in them.
+  void addGap() { end_.bandsUnknown = true; }
 
   // The page is over. brokenOff: the stream ends inside it, and what is missing is not told.
   PageSummary finish(bool brokenOff);
 
   [[nodiscard]] const PageSummary& summary() const { return summary_; }
   // The page's last band has come.
-  [[nodiscard]] bool closed() const { return closed_; }
+  [[nodiscard]] bool closed() const { return end_.closed; }
 
  private:
   [[nodiscard]] bool hasPlane(Ink ink) const;
+  // The plane of a band: that of its length, or, when that does not tell, the one whose turn it is.
+  [[nodiscard]] std::optional<Ink> inkOf(const Band& band) const;
   // Its place on the page, which counts from now on.
   BandPlace placeOf(Ink ink, const Band& band);
+  void addMisplacedBand(std::optional<Ink> ink);
   void checkPlace(const Band& band, BandPlace place);
+  void checkHeight(const BandRecord& record, BandPlace place);
+  void checkOrder(BandPlace place);
   void checkFlags(const BandRecord& record, BandPlace place);
-  bool checkData(const Band& band);
+  bool checkData(const Band& band, BandPlace place);
   BandDataReport examine(const Band& band);
-  // The rows of a page that ends after as many steps as it had; nothing when it does not end so.
-  [[nodiscard]] std::optional<std::uint32_t> rowsWithStepsLeftOut() const;
-  void checkRows(std::uint64_t rows);
-  void checkBandCount(std::uint64_t rows);
-  void checkBlankness();
-  void checkPaperSize(std::uint64_t rows);
   void tell(std::uint64_t offset, Rule rule, std::string text) const;
   void tellOfPage(std::size_t offset, Rule rule, std::string text) const;
 
   FindingSink sink_;
   PageSummary summary_;
   std::string pageName_;
-  std::string recordName_;           // of what is being looked at
-  std::uint64_t bandOffset_ = 0;     // of the band record that is being looked at
-  std::uint32_t rowsTold_ = 0;       // by rows and bands of the page record together
-  bool bandCountIsPossible_ = true;  // for some number of rows with the told low 16 bits
+  std::string recordName_;        // of what is being looked at
+  std::uint64_t bandOffset_ = 0;  // of the band record that is being looked at
+  bool planesKnown_;              // the page record tells a number of planes that exists
+  RowsTold rowsTold_;
   BandOrder order_;
+  bool manyPlanes_ = false;    // of the band: more than one plane has a length
+  bool lastFlagTold_ = false;  // of the band: its last-band flag is not as it should be
   // Of each plane the band of less than kBandHeight rows that came last.
   struct ShortBand {
     std::uint64_t offset = 0;
     std::uint32_t rows = 0;
   };
   std::array<std::optional<ShortBand>, kInkCount> shortBands_;
-  bool closed_ = false;
+  PageEnd end_;
 };
 
 }  // namespace gdi::reader

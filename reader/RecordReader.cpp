@@ -7,7 +7,7 @@
 #include <cstdio>
 #include <utility>
 
-#include "printer/format/big_endian.h"
+#include "codec/pc4sc4_format.h"
 #include "reader/counted.h"
 #include "reader/record_rules.h"
 
@@ -33,6 +33,17 @@ std::string hexadecimal(std::span<const std::uint8_t> bytes) {
   return text;
 }
 
+bool isFinalEndMark(std::span<const std::uint8_t> rest) {
+  return rest.size() == sizeof(Tag) && kindOfTag(rest) == RecordKind::kEndOfJob;
+}
+
+// What else is told of the length is true of a length that lies.
+void tellLength(RecordStep& step, Ink ink, std::string text) {
+  std::erase_if(step.flaws, [](const Flaw& flaw) { return flaw.rule == Rule::kBandLength; });
+  step.flaws.push_back({lengthOffsetOf(ink), Rule::kBandLength, std::move(text)});
+  std::ranges::stable_sort(step.flaws, {}, &Flaw::offset);
+}
+
 }  // namespace
 
 std::optional<RecordStep> RecordReader::next() {
@@ -47,12 +58,14 @@ std::optional<RecordStep> RecordReader::next() {
   if (start.empty()) {
     return readEnd();
   }
-  const std::optional<RecordKind> kind =
-      start.size() < sizeof(Tag) ? std::nullopt : kindOfTag(start);
   const bool follows = std::exchange(ended_, false);
+  const std::optional<RecordKind> kind =
+      start.size() < sizeof(Tag) && follows ? std::nullopt : kindOfTagStart(start);
   RecordStep step = kind ? readRecord(*kind) : readGap();
   if (follows && !std::exchange(toldWhatFollows_, true)) {
-    std::erase_if(step.flaws, [](const Flaw& flaw) { return flaw.rule == Rule::kTag; });
+    std::erase_if(step.flaws, [](const Flaw& flaw) {
+      return flaw.rule == Rule::kTag || flaw.rule == Rule::kRecordOrder;
+    });
     step.flaws.insert(step.flaws.begin(),
                       {0, Rule::kAfterEnd, "the stream goes on behind the end-of-job mark (JIDG)"});
   }
@@ -107,16 +120,16 @@ RecordStep RecordReader::readRecord(RecordKind kind) {
   foundRecord_ = true;
   lengthWasUnknown_ = false;
   if (step.bytes < bytes.size()) {
-    step.record = BrokenOff{};
-    step.flaws.push_back({step.bytes, Rule::kTruncated,
-                          "the stream ends after " + std::to_string(step.bytes) + " of the " +
-                              nameOf(kind) + "'s " + std::to_string(bytes.size()) + " bytes"});
-    finished_ = true;
-    return step;
+    const std::string text = "the stream ends after " + std::to_string(step.bytes) + " of the " +
+                             nameOf(kind) + "'s " + std::to_string(bytes.size()) + " bytes";
+    return breakOff(std::move(step), text);
   }
   step.header.assign(bytes.begin(), bytes.end());
   step.flaws = flawsOfRecord(kind, bytes);
   checkOrder(kind, step);
+  if (std::exchange(gapWasTold_, false)) {
+    std::erase_if(step.flaws, [](const Flaw& flaw) { return flaw.rule == Rule::kRecordOrder; });
+  }
   switch (kind) {
     case RecordKind::kJob:
       step.record = parseJobRecord(bytes);
@@ -154,7 +167,7 @@ void RecordReader::checkOrder(RecordKind kind, RecordStep& step) {
   switch (kind) {
     case RecordKind::kJob:
       if (expected != Expecting::kJob) {
-        tell("a second job record (GDIJ)");
+        tell("the job record (GDIJ) does not come first, or once more");
       }
       expecting_ = Expecting::kHost;
       return;
@@ -171,7 +184,7 @@ void RecordReader::checkOrder(RecordKind kind, RecordStep& step) {
       if (expected == Expecting::kPageOrEnd) {
         tell("a band record (GDIB) comes ahead of the first page record");
       }
-      expecting_ = std::max(expected, Expecting::kPageOrEnd);
+      expecting_ = Expecting::kBandPageOrEnd;
       break;
     case RecordKind::kEndOfJob:
       expecting_ = Expecting::kJob;
@@ -206,36 +219,77 @@ void RecordReader::readBandData(Band& band, RecordStep& step) {
   }
   step.bytes += band.data.size();
   const std::span<const std::uint8_t> behind = source_.peek(sizeof(Tag));
-  if (left > 0 || (!behind.empty() && (behind.size() < sizeof(Tag) || !kindOfTag(behind)))) {
+  const bool leadsNowhere = behind.size() < sizeof(Tag) || !kindOfTag(behind);
+  if (left > 0 || (leadsNowhere && !fillToNextRecord(band, step))) {
     cutToNextRecord(band, step);
   }
+}
+
+// A length that is no multiple of 16 may lack the few bytes up to one. False when no record begins
+// there.
+bool RecordReader::fillToNextRecord(Band& band, RecordStep& step) {
+  const std::size_t have = band.data.size();
+  const std::size_t missing =
+      (pc4sc4::kBandAlignment - have % pc4sc4::kBandAlignment) % pc4sc4::kBandAlignment;
+  const std::span<const std::uint8_t> ahead = source_.peek(missing + kRecordStartBytes);
+  if (missing == 0 || ahead.size() < missing ||
+      !(beginsRecord(ahead.subspan(missing)) || isFinalEndMark(ahead.subspan(missing)))) {
+    return false;
+  }
+  band.data.resize(have + missing);
+  step.bytes += source_.read(std::span(band.data).last(missing));
+  tellLength(step, *band.ink,
+             "the band has " + std::to_string(have) +
+                 " bytes, and yet the next record begins after " + std::to_string(have + missing));
+  return true;
 }
 
 // The band's length leads nowhere. If a record begins inside its data, they end there.
 void RecordReader::cutToNextRecord(Band& band, RecordStep& step) {
   const std::uint32_t told = band.record.lengths[indexOf(*band.ink)];
   const std::size_t have = band.data.size();
-  std::optional<std::size_t> start;
-  if (shortenedBands_ < kMostShortenedBands) {
-    const std::span<const std::uint8_t> behind = source_.peek(kRecordStartBytes - 1);
-    band.data.insert(band.data.end(), behind.begin(), behind.end());
-    start = findRecordStart(band.data);
-    band.data.resize(have);
-  }
-  if (start) {
+  if (const std::optional<std::size_t> start = recordInside(band.data)) {
     ++shortenedBands_;
     source_.giveBack(std::span(band.data).subspan(*start));
     band.data.resize(*start);
     step.bytes -= have - *start;
-    step.flaws.push_back({lengthOffsetOf(*band.ink), Rule::kBandLength,
-                          "the band has " + std::to_string(told) +
-                              " bytes, and yet a record begins after " + counted(*start, "byte")});
+    tellLength(step, *band.ink,
+               "the band has " + std::to_string(told) + " bytes, and yet a record begins after " +
+                   counted(*start, "byte"));
   } else if (have < told) {
-    step.flaws.push_back({step.bytes, Rule::kTruncated,
-                          "the stream ends after " + std::to_string(have) + " of the " +
-                              nameOf(*band.ink) + " band's " + counted(told, "byte")});
-    finished_ = true;
+    step = breakOff(std::move(step), "the stream ends after " + std::to_string(have) + " of the " +
+                                         nameOf(*band.ink) + " band's " + counted(told, "byte"));
   }
+}
+
+// Where in a band's data a record begins, an end-of-job mark that ends the input included.
+std::optional<std::size_t> RecordReader::recordInside(std::vector<std::uint8_t>& data) {
+  if (shortenedBands_ >= kMostShortenedBands) {
+    return std::nullopt;
+  }
+  const std::size_t have = data.size();
+  const std::span<const std::uint8_t> behind = source_.peek(kRecordStartBytes);
+  const bool inputEnds = behind.size() < kRecordStartBytes;
+  data.insert(data.end(), behind.begin(), behind.end());
+  std::optional<std::size_t> start = findRecordStart(data);
+  if (!start && inputEnds && data.size() >= sizeof(Tag) &&
+      isFinalEndMark(std::span(data).last(sizeof(Tag)))) {
+    start = data.size() - sizeof(Tag);
+  }
+  data.resize(have);
+  return start && *start < have ? start : std::nullopt;
+}
+
+// The input's end is the stream's only if it could be read.
+RecordStep RecordReader::breakOff(RecordStep&& step, std::string text) {
+  finished_ = true;
+  step.record = BrokenOff{};
+  if (source_.failed()) {
+    step.flaws.clear();
+  } else {
+    step.flaws.push_back({step.bytes, Rule::kTruncated, std::move(text)});
+  }
+  return std::move(step);
 }
 
 RecordStep RecordReader::readGap() {
@@ -244,7 +298,8 @@ RecordStep RecordReader::readGap() {
   const std::string start = hexadecimal(source_.peek(sizeof(Tag)));
   step.bytes = skipToRecord(source_).count;
   step.record = Gap{};
-  if (!lengthWasUnknown_) {
+  gapWasTold_ = !lengthWasUnknown_;
+  if (gapWasTold_) {
     step.flaws.push_back(
         {0, Rule::kTag,
          "no record begins with " + start + "; " + counted(step.bytes, "byte") + " passed over"});
@@ -261,7 +316,9 @@ std::optional<RecordStep> RecordReader::readEnd() {
   RecordStep step;
   step.offset = source_.offset();
   step.record = BrokenOff{};
-  step.flaws.push_back({0, Rule::kEndMark, "the stream ends without the end-of-job mark (JIDG)"});
+  if (!source_.failed()) {
+    step.flaws.push_back({0, Rule::kEndMark, "the stream ends without the end-of-job mark (JIDG)"});
+  }
   return step;
 }
 

@@ -40,7 +40,8 @@ struct EndOfJob {};  // the end-of-job mark
 // Bytes that are part of no record.
 struct Gap {};
 
-// The stream's end where it should not be: inside a record, or without the end-of-job mark.
+// The stream's end where it should not be: inside a record, or without the end-of-job mark. There
+// is no flaw when the input could not be read on.
 struct BrokenOff {};
 
 struct RecordStep {
@@ -77,8 +78,11 @@ class RecordReader {
   RecordStep readRecord(RecordKind kind);
   void checkOrder(RecordKind kind, RecordStep& step);
   void readBandData(Band& band, RecordStep& step);
+  bool fillToNextRecord(Band& band, RecordStep& step);
   void cutToNextRecord(Band& band, RecordStep& step);
+  std::optional<std::size_t> recordInside(std::vector<std::uint8_t>& data);
   RecordStep readGap();
+  RecordStep breakOff(RecordStep&& step, std::string text);
   std::optional<RecordStep> readEnd();
 
   ByteSource source_;
@@ -90,6 +94,7 @@ class RecordReader {
   bool ended_ = false;             // an end-of-job mark came, and nothing behind it yet
   bool toldWhatFollows_ = false;   // that something follows the end-of-job mark
   bool lengthWasUnknown_ = false;  // of the band just read: bytes of it may follow
+  bool gapWasTold_ = false;        // just now: a record that is missing may be in the gap
   unsigned shortenedBands_ = 0;
   std::array<std::uint8_t, host_record::kLength> record_{};  // the longest record
 };

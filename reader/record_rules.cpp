@@ -183,8 +183,7 @@ std::vector<Flaw> flawsOfBandRecord(Bytes bytes) {
       rules.tell(lengthOffsetOf(*ink), Rule::kBandLength,
                  "the band has " + std::to_string(length) + " bytes, which is no multiple of " +
                      std::to_string(pc4sc4::kBandAlignment));
-    }
-    if (length > most && record.rows > 0) {
+    } else if (length > most && record.rows > 0) {
       rules.tell(lengthOffsetOf(*ink), Rule::kBandLength,
                  "the band has " + std::to_string(length) +
                      " bytes, and its rows can have no more than " + std::to_string(most));

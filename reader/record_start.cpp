@@ -38,8 +38,13 @@ std::size_t lengthOf(RecordKind kind) {
 }
 
 std::optional<RecordKind> kindOfTag(std::span<const std::uint8_t> bytes) {
+  return kindOfTagStart(bytes.first(sizeof(Tag)));
+}
+
+std::optional<RecordKind> kindOfTagStart(std::span<const std::uint8_t> bytes) {
+  const auto length = static_cast<std::ptrdiff_t>(std::min(bytes.size(), sizeof(Tag)));
   for (const KindText& kind : kKinds) {
-    if (std::equal(kind.tag.begin(), kind.tag.end(), bytes.begin())) {
+    if (std::equal(kind.tag.begin(), kind.tag.begin() + length, bytes.begin())) {
       return kind.kind;
     }
   }
@@ -61,10 +66,14 @@ std::optional<RecordKind> kindOfStart(std::uint64_t bytes) {
   return kind;
 }
 
+bool beginsRecord(std::span<const std::uint8_t> bytes) {
+  return bytes.size() >= kRecordStartBytes && bytes.front() == 'G' &&
+         kindOfStart(std::uint64_t{bigEndian32(bytes, 0)} << 32 | bigEndian32(bytes, 4));
+}
+
 std::optional<std::size_t> findRecordStart(std::span<const std::uint8_t> bytes) {
   for (std::size_t at = 0; at + kRecordStartBytes <= bytes.size(); ++at) {
-    if (bytes[at] == 'G' &&
-        kindOfStart(std::uint64_t{bigEndian32(bytes, at)} << 32 | bigEndian32(bytes, at + 4))) {
+    if (bytes[at] == 'G' && beginsRecord(bytes.subspan(at))) {
       return at;
     }
   }

@@ -25,6 +25,10 @@ std::size_t lengthOf(RecordKind kind);
 // requires: bytes.size() >= 4
 std::optional<RecordKind> kindOfTag(std::span<const std::uint8_t> bytes);
 
+// The same of an input's last bytes, of which a tag may have less than four: the first kind whose
+// tag begins with them. requires: bytes is not empty
+std::optional<RecordKind> kindOfTagStart(std::span<const std::uint8_t> bytes);
+
 // Bytes that are looked at to find a record among other bytes.
 inline constexpr std::size_t kRecordStartBytes = 8;
 
@@ -32,6 +36,9 @@ inline constexpr std::size_t kRecordStartBytes = 8;
 // with its record's length, or a band record's tag with flags that exist. The end-of-job mark has
 // nothing behind its tag and is never found so.
 std::optional<RecordKind> kindOfStart(std::uint64_t bytes);
+
+// Whether such a record begins with the first of these bytes; fewer than eight begin none.
+bool beginsRecord(std::span<const std::uint8_t> bytes);
 
 // Where the first such record begins in `bytes`.
 std::optional<std::size_t> findRecordStart(std::span<const std::uint8_t> bytes);

@@ -55,6 +55,10 @@ Bytes literalBand(const Rows& rows, bool last) {
   if (last) {
     words.insert(words.end(), {0x0002, 0x3F00, 0xFFFF, 0x0000});
   }
+  return bandOfWords(words);
+}
+
+Bytes bandOfWords(const Words& words) {
   Bytes bytes;
   for (const std::uint16_t word : words) {
     bytes.push_back(static_cast<std::uint8_t>(word));
@@ -111,6 +115,11 @@ JobBuilder& JobBuilder::band(reader::Ink ink, std::uint32_t flags, const Rows& r
   fields.rowBits = static_cast<std::uint16_t>(rows.front().size() * 8);
   fields.rows = static_cast<std::uint16_t>(rows.size());
   return band(fields, literalBand(rows, (flags & kLast) != 0));
+}
+
+JobBuilder& JobBuilder::patch(std::size_t record, std::size_t field, const Bytes& bytes) {
+  std::ranges::copy(bytes, bytes_.begin() + static_cast<std::ptrdiff_t>(record + field));
+  return *this;
 }
 
 std::istringstream JobBuilder::stream() const {

@@ -23,12 +23,15 @@ using Rows = std::vector<Bytes>;
 // `count` rows of `rowBytes` bytes that all are `byte`.
 Rows solidRows(std::size_t count, std::size_t rowBytes, std::uint8_t byte);
 
+// Stream words as bytes.
+Bytes bandOfWords(const std::vector<std::uint16_t>& words);
+
 // The rows as a band in which every row is one literal run; `last` adds the page's trailer.
 Bytes literalBand(const Rows& rows, bool last);
 
 struct PageFields {
   std::uint16_t rowBits = 128;
-  std::uint16_t rows = 0;
+  std::uint32_t rows = 0;  // the record's field has the low 16 bits
   std::uint8_t channels = 1;
   std::uint16_t number = 0;
   std::uint32_t widthMicrometres = 4064;  // 96 pixels
@@ -57,6 +60,9 @@ class JobBuilder {
   // The record of literalBand(rows) and that band.
   JobBuilder& band(reader::Ink ink, std::uint32_t flags, const Rows& rows);
   JobBuilder& end() { return text("JIDG"); }
+
+  // Other bytes in place of those that stand there. record: its offset; field: offset in it.
+  JobBuilder& patch(std::size_t record, std::size_t field, const Bytes& bytes);
 
   [[nodiscard]] std::size_t size() const { return bytes_.size(); }
   [[nodiscard]] const Bytes& bytes() const { return bytes_; }
