@@ -4,7 +4,7 @@
 // The process entry: one print job from the spooler's arguments to an exit status of 0 or 1.
 
 #include "filter/log/debug_log.h"
-#include "filter/standard_descriptors.h"
+#include "platform/standard_descriptors.h"
 #include "printer/GDIFilter.h"
 
 int main(int argc, const char** argv) {

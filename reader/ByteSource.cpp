@@ -45,15 +45,22 @@ void ByteSource::giveBack(std::span<const std::uint8_t> bytes) {
   position_ = 0;
 }
 
+// Takes what the stream has ready: bytes ahead of a failure must not be lost with it.
 bool ByteSource::refill() {
-  buffer_.resize(kBufferBytes);
+  buffer_.clear();
   position_ = 0;
+  if (!input_ ||
+      std::istream::traits_type::eq_int_type(input_.peek(), std::istream::traits_type::eof())) {
+    return false;
+  }
+  const std::streamsize ready = std::max<std::streamsize>(1, input_.rdbuf()->in_avail());
+  buffer_.resize(std::min(kBufferBytes, static_cast<std::size_t>(ready)));
   // char is the type that std::istream reads; any object may be filled through it.
-  input_.read(reinterpret_cast<char*>(buffer_.data()), static_cast<std::streamsize>(kBufferBytes));
-  const auto got = static_cast<std::size_t>(input_.gcount());
-  buffer_.resize(got);
-  inputOffset_ += got;
-  return got > 0;
+  input_.read(reinterpret_cast<char*>(buffer_.data()),
+              static_cast<std::streamsize>(buffer_.size()));
+  buffer_.resize(static_cast<std::size_t>(input_.gcount()));
+  inputOffset_ += buffer_.size();
+  return !buffer_.empty();
 }
 
 }  // namespace gdi::reader

@@ -133,7 +133,7 @@ TEST(InfoSchema, HoldsForSummariesAloneAndForOnePage) {
   const json page = json::parse(infoOf(everyRecord(), options));
   EXPECT_EQ(schema().faultOf(page), "");
   EXPECT_FALSE(page.contains("job"));
-  EXPECT_EQ(kindsOf(page), (std::set<std::string>{"page", "band", "page_summary"}));
+  EXPECT_EQ(kindsOf(page), (std::set<std::string>{"page", "band", "gap", "page_summary"}));
 }
 
 TEST(InfoSchema, RefusesWhatTheDocumentsDoNotHave) {

@@ -65,10 +65,14 @@ JobInput::JobInput(const std::string& name) : name_(name), stream_(&file_) {
     stream_ = &std::cin;
     return;
   }
+  std::error_code unknown;
+  if (std::filesystem::is_directory(name, unknown)) {
+    error_ = EISDIR;
+    return;
+  }
   errno = 0;
   file_.open(name, std::ios::binary);
-  error_ = file_ ? 0 : errno;
-  std::error_code unknown;
+  error_ = file_ ? 0 : (errno == 0 ? EIO : errno);
   if (std::filesystem::is_regular_file(name, unknown)) {
     size_ = std::filesystem::file_size(name, unknown);
   }
@@ -108,12 +112,20 @@ bool isJobStream(const reader::JobWalk& walk, const reader::Prologue& start,
   return walk.foundRecord();
 }
 
+void tellMissingPage(const std::string& name, std::uint32_t page, const reader::JobTotals& totals,
+                     std::ostream& errors) {
+  errors << "gdiview: " << name << ": there is no page " << page << "; the job has " << totals.pages
+         << '\n';
+}
+
 int statusAfterWriting(std::ostream& out, int status, std::ostream& errors) {
+  const bool lost = !out;
+  out.clear();  // what failed before fails again, and says why
   errno = 0;
-  if (out.flush()) {
+  if (out.flush() && !lost) {
     return status;
   }
-  errors << "gdiview: the report cannot be written: "
+  errors << "gdiview: standard output: "
          << std::generic_category().message(errno == 0 ? EIO : errno) << '\n';
   return kUnusable;
 }

@@ -49,12 +49,17 @@ class JobInput {
 // the program or installed with it when no folder is given. Nothing when there are none.
 std::optional<std::uint64_t> prologueBytesOf(const std::optional<std::filesystem::path>& resources);
 
-// Whether the walk, which is over, has seen a job stream. If not, one line says what there was
-// instead: that the input cannot be read, that it is empty, or what it looks like.
+// Whether the walk, which is over, has seen a job stream and could read on. If not, one line says
+// what there was instead: that the input cannot be read, that it is empty, or what it looks like.
 bool isJobStream(const reader::JobWalk& walk, const reader::Prologue& start,
                  const std::string& name, std::ostream& errors);
 
-// `status`, or kUnusable with a line when what was written to `out` got lost.
+// The line for a page that the user asked for and the job, read to its end, does not have.
+void tellMissingPage(const std::string& name, std::uint32_t page, const reader::JobTotals& totals,
+                     std::ostream& errors);
+
+// `status`; or kUnusable, with a line, when something that was written to standard output, which
+// `out` stands for, got lost.
 int statusAfterWriting(std::ostream& out, int status, std::ostream& errors);
 
 }  // namespace gdi::gdiview

@@ -17,7 +17,8 @@ struct CheckOptions {
   std::optional<std::uint64_t> prologueBytes;
 };
 
-// Writes a line a finding, in the stream's order, and a last line that counts them. Answers kSound,
+// Writes a line a finding, page by page in the order in which they are found, and a last line that
+// counts them. Answers kSound,
 // kFaulty when there are violations, or kUnusable.
 int checkJob(JobInput& input, const CheckOptions& options, std::ostream& out, std::ostream& errors);
 

@@ -3,6 +3,8 @@
 
 #include "tools/gdiview/header_difference.h"
 
+#include <array>
+
 #include "tools/gdiview/record_fields.h"
 
 namespace gdi::gdiview {
@@ -25,6 +27,33 @@ void addZeroFields(std::span<const ZeroField> fields, std::span<const std::uint8
         differences.push_back({"byte " + std::to_string(at), std::to_string(unsigned{a[at]}),
                                std::to_string(unsigned{b[at]})});
       }
+    }
+  }
+}
+
+// Where the text fields of a kind of record stand, in the order of their fields.
+std::span<const std::size_t> textOffsetsOf(reader::RecordKind kind) {
+  static constexpr std::array kOfJob{job_record::kJobNameOffset};
+  static constexpr std::array kOfHost{host_record::kHostNameOffset, host_record::kUserNameOffset};
+  switch (kind) {
+    case reader::RecordKind::kJob:
+      return kOfJob;
+    case reader::RecordKind::kHost:
+      return kOfHost;
+    default:
+      return {};
+  }
+}
+
+// What is behind the end of two equal texts.
+void addPadding(const Field& field, std::size_t offset, std::span<const std::uint8_t> a,
+                std::span<const std::uint8_t> b, std::vector<HeaderDifference>& differences) {
+  for (std::size_t at = offset; at < offset + kTextBytes; ++at) {
+    if (a[at] != b[at]) {
+      const std::string place = " at byte " + std::to_string(at);
+      differences.push_back({field.name, std::to_string(unsigned{a[at]}) + place,
+                             std::to_string(unsigned{b[at]}) + place});
+      return;
     }
   }
 }
@@ -53,10 +82,16 @@ std::vector<HeaderDifference> differenceOfHeaders(reader::RecordKind kind,
   std::vector<HeaderDifference> differences;
   const std::vector<Field> fieldsOfA = fieldsOf(kind, a);
   const std::vector<Field> fieldsOfB = fieldsOf(kind, b);
+  auto textOffset = textOffsetsOf(kind).begin();
   for (std::size_t i = 0; i < fieldsOfA.size(); ++i) {
-    if (fieldsOfA[i].value != fieldsOfB[i].value) {
-      differences.push_back({fieldsOfA[i].name, explained(fieldsOfA[i]), explained(fieldsOfB[i])});
+    const Field& field = fieldsOfA[i];
+    const bool isText = std::holds_alternative<std::string>(field.value);
+    if (field.value != fieldsOfB[i].value) {
+      differences.push_back({field.name, explained(field), explained(fieldsOfB[i])});
+    } else if (isText) {
+      addPadding(field, *textOffset, a, b, differences);
     }
+    textOffset += isText ? 1 : 0;
   }
   addZeroFields(zeroFieldsOf(kind), a, b, differences);
   return differences;

@@ -15,7 +15,7 @@ namespace gdi::gdiview {
 
 struct HeaderDifference {
   std::string name;  // a field's, or "byte 28" of bytes that are no field
-  std::string a;     // what is there, with what it means
+  std::string a;     // what is there, with what it means; of equal texts, the byte behind them
   std::string b;
 };
 

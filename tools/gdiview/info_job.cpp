@@ -15,6 +15,7 @@ int infoJob(JobInput& input, const InfoOptions& options, std::ostream& out, std:
     return !options.page || *options.page == page;
   };
   bool shown = false;
+  std::uint32_t page = 0;  // that is under way
   while (const std::optional<reader::JobStep> job = walk.next()) {
     if (job->endedPage && wanted(job->endedPage->ordinal)) {
       report->page(*job->endedPage);
@@ -29,22 +30,29 @@ int infoJob(JobInput& input, const InfoOptions& options, std::ostream& out, std:
         continue;
       }
     }
-    if (!options.summary && wanted(job->page)) {
+    // What is no record belongs to the page inside which it stands.
+    if (job->endedPage || job->page != 0) {
+      page = job->page;
+    }
+    if (!options.summary && wanted(page)) {
       report->record(*job);
     }
   }
-  if (!shown && !isJobStream(walk, prologue, input.name(), errors)) {
+  const bool readable = isJobStream(walk, prologue, input.name(), errors);
+  if (!walk.foundRecord()) {
     return statusAfterWriting(out, kUnusable, errors);
   }
   if (!options.page) {
     report->job(walk.totals());
   } else if (!shown) {
-    errors << "gdiview: " << input.name() << ": there is no page " << *options.page
-           << "; the job has " << walk.totals().pages << '\n';
+    if (readable) {
+      tellMissingPage(input.name(), *options.page, walk.totals(), errors);
+    }
     return kUnusable;
   }
   report->end();
-  return statusAfterWriting(out, walk.totals().violations == 0 ? kSound : kFaulty, errors);
+  const int status = walk.totals().violations == 0 ? kSound : kFaulty;
+  return statusAfterWriting(out, readable ? status : kUnusable, errors);
 }
 
 }  // namespace gdi::gdiview

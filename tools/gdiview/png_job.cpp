@@ -3,6 +3,9 @@
 
 #include "tools/gdiview/png_job.h"
 
+#include <sstream>
+#include <string>
+
 #include "reader/JobReader.h"
 #include "reader/counted.h"
 #include "tools/gdiview/FindingLines.h"
@@ -20,40 +23,46 @@ bool isTurned(const reader::Page& page, Turned turned) {
   return turned == Turned::kAll || turned == (isBack ? Turned::kBacks : Turned::kFronts);
 }
 
-void describe(const reader::Page& page, std::ostream& out) {
-  out << "page " << page.ordinal << ": " << (page.isColor() ? "4 planes (CMYK)" : "1 plane (K)")
-      << ", " << counted(page.rows(), "row") << " of " << counted(page.rowBits, "bit") << ", "
-      << counted(page.widthPixels(), "pixel") << " of " << counted(page.bitsPerPixel, "bit") << ", "
-      << counted(page.bandCount, "band") << ", "
-      << counted(page.compressedBytes, "compressed byte");
+std::string description(const reader::Page& page) {
+  std::ostringstream text;
+  text << "page " << page.ordinal << ": " << (page.isColor() ? "4 planes (CMYK)" : "1 plane (K)")
+       << ", " << counted(page.rows(), "row") << " of " << counted(page.rowBits, "bit") << ", "
+       << counted(page.widthPixels(), "pixel") << " of " << counted(page.bitsPerPixel, "bit")
+       << ", " << counted(page.bandCount, "band") << ", "
+       << counted(page.compressedBytes, "compressed byte");
+  return text.str();
 }
 
-// The pictures of one page; false, with a line, when one cannot be written.
-bool writePage(const reader::Page& page, const PngOptions& options, std::ostream& out,
-               std::ostream& errors) {
+// The pictures of one page; false, with a line, when one cannot be written. The progress line stays
+// while a picture is painted, which takes longer than reading the page did.
+bool writePage(const reader::Page& page, const PngOptions& options, Progress& progress,
+               std::ostream& out, std::ostream& errors) {
   const std::string name = "page-" + std::to_string(page.ordinal);
   PaintOptions paint;
   paint.reduction = options.reduction;
   paint.upright = isTurned(page, options.turned);
-  const auto write = [&](const std::string& file) {
+  const auto write = [&](const std::string& text, const std::string& file) {
     PagePainter painter(page, paint);
     const std::filesystem::path path = options.folder / (file + ".png");
-    const bool written = writePicture(painter, options.reduction, path, errors);
-    out << (written ? ": " + path.string() : ", no picture") << '\n';
+    std::ostringstream trouble;
+    const bool written = writePicture(painter, options.reduction, path, trouble);
+    progress.clear();
+    out << text << (written ? ": " + path.string() : ", no picture") << '\n';
+    errors << trouble.str();
     return written;
   };
-  describe(page, out);
   if (page.rows() == 0 || page.widthPixels() == 0) {
-    out << ", no picture\n";
+    progress.clear();
+    out << description(page) << ", no picture\n";
     return true;
   }
-  if (!write(name)) {
+  if (!write(description(page), name)) {
     return false;
   }
   for (const reader::Ink ink : options.planes ? page.inks() : std::span<const reader::Ink>()) {
     paint.separation = ink;
-    out << "page " << page.ordinal << ", " << nameOf(ink);
-    if (!write(name + "-" + nameOf(ink))) {
+    const std::string plane = nameOf(ink);
+    if (!write("page " + std::to_string(page.ordinal) + ", " + plane, name + "-" + plane)) {
       return false;
     }
   }
@@ -79,9 +88,8 @@ int pngJob(JobInput& input, const PngOptions& options, Progress& progress, std::
     if (options.page && *options.page != page->ordinal) {
       continue;
     }
-    progress.clear();
     shown = true;
-    if (!writePage(*page, options, out, errors)) {
+    if (!writePage(*page, options, progress, out, errors)) {
       return kUnusable;
     }
     if (options.page) {
@@ -89,12 +97,11 @@ int pngJob(JobInput& input, const PngOptions& options, Progress& progress, std::
     }
   }
   progress.clear();
-  if (!shown && !isJobStream(job.walk(), job.prologue(), input.name(), errors)) {
-    return kUnusable;
+  if (!isJobStream(job.walk(), job.prologue(), input.name(), errors)) {
+    return statusAfterWriting(out, kUnusable, errors);
   }
   if (options.page && !shown) {
-    errors << "gdiview: " << input.name() << ": there is no page " << *options.page
-           << "; the job has " << job.totals().pages << '\n';
+    tellMissingPage(input.name(), *options.page, job.totals(), errors);
     return kUnusable;
   }
   return statusAfterWriting(out, job.totals().violations == 0 ? kSound : kFaulty, errors);

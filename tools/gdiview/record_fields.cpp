@@ -3,6 +3,7 @@
 
 #include "tools/gdiview/record_fields.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdio>
 #include <string_view>
@@ -18,6 +19,11 @@ namespace gdi::gdiview {
 namespace {
 
 using Bytes = std::span<const std::uint8_t>;
+
+// In UTF-8: where characters of two bytes begin, and the first of them behind C2 that is no
+// control.
+constexpr std::uint8_t kFirstLeadByte = 0xC2;
+constexpr std::uint8_t kFirstPrintableBehindC2 = 0xA0;
 
 template <typename... Values>
 std::string formatted(const char* format, Values... values) {
@@ -36,6 +42,34 @@ std::string millimetres(std::uint32_t micrometres) {
 
 Field constantAt(Bytes header, std::size_t offset) {
   return {"constant_" + std::to_string(offset), std::uint64_t{header[offset]}};
+}
+
+// Bytes of the character beyond ASCII that `text` begins with; 0 when it begins with another one, a
+// control or none.
+std::size_t printableBytes(std::string_view text) {
+  const bool control = text.starts_with('\xC2') && text.size() > 1 &&
+                       static_cast<std::uint8_t>(text[1]) < kFirstPrintableBehindC2;
+  if (control) {
+    return 0;
+  }
+  for (std::size_t length = 2; length <= std::min<std::size_t>(4, text.size()); ++length) {
+    if (static_cast<std::uint8_t>(text[0]) >= kFirstLeadByte && isUtf8(text.substr(0, length))) {
+      return length;
+    }
+  }
+  return 0;
+}
+
+std::string escapedByte(char character) {
+  constexpr std::string_view kNamed = "\r\n\t\"\\";
+  constexpr std::string_view kNames = "rnt\"\\";
+  constexpr std::uint8_t kDelete = 0x7F;
+  if (const std::size_t named = kNamed.find(character); named != std::string_view::npos) {
+    return {'\\', kNames[named]};
+  }
+  const auto byte = static_cast<std::uint8_t>(character);
+  return byte < ' ' || byte >= kDelete ? formatted("\\x%02x", unsigned{byte})
+                                       : std::string(1, character);
 }
 
 std::vector<Field> jobFields(Bytes header) {
@@ -165,22 +199,18 @@ std::string valueText(const Field& field) {
 }
 
 std::string escaped(Bytes bytes) {
-  constexpr std::string_view kNamed = "\r\n\t\"\\";
-  constexpr std::string_view kNames = "rnt\"\\";
-  constexpr std::uint8_t kDelete = 0x7F;
-  const bool isText = isUtf8(std::string(bytes.begin(), bytes.end()));
-  std::string text;
-  for (const std::uint8_t byte : bytes) {
-    const auto character = static_cast<char>(byte);
-    if (const std::size_t named = kNamed.find(character); named != std::string_view::npos) {
-      text.append("\\").append(1, kNames[named]);
-    } else if (byte < ' ' || byte == kDelete || (byte > kDelete && !isText)) {
-      text += formatted("\\x%02x", unsigned{byte});
+  const std::string_view text(reinterpret_cast<const char*>(bytes.data()), bytes.size());
+  std::string answer;
+  for (std::size_t at = 0; at < text.size();) {
+    const std::size_t length = std::max<std::size_t>(1, printableBytes(text.substr(at)));
+    if (length > 1) {
+      answer += text.substr(at, length);
     } else {
-      text += character;
+      answer += escapedByte(text[at]);
     }
+    at += length;
   }
-  return text;
+  return answer;
 }
 
 std::string quoted(Bytes bytes) {

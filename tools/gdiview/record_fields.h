@@ -39,8 +39,8 @@ std::string fieldText(reader::RecordKind kind, std::span<const std::uint8_t> hea
                       std::string_view name);
 // The value as text: a number, or the text in quotes with what cannot be printed escaped.
 std::string valueText(const Field& field);
-// Bytes as text in one line: controls, quotes, backslashes and all that is no UTF-8 escaped as in
-// C.
+// Bytes as text in one line: controls, quotes, backslashes and each byte that is of no whole
+// character in UTF-8 escaped as in C.
 std::string escaped(std::span<const std::uint8_t> bytes);
 // The same between quotes.
 std::string quoted(std::span<const std::uint8_t> bytes);

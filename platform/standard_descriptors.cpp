@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The rasterToGDI authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "filter/standard_descriptors.h"
+#include "platform/standard_descriptors.h"
 
 #include <fcntl.h>
 #include <unistd.h>

@@ -1,0 +1,256 @@
+// SPDX-FileCopyrightText: 2026 The rasterToGDI authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "tools/gdiview/png_job.h"
+
+#include <fstream>
+#include <sstream>
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include "tests/gdiview/png_reader.h"
+#include "tests/gdiview/small_jobs.h"
+#include "tests/support/TemporaryFolder.h"
+
+namespace gdi::gdiview {
+namespace {
+
+using jobtest::Bytes;
+using jobtest::JobBuilder;
+using jobtest::kFirst;
+using jobtest::kLast;
+using reader::Ink;
+
+class PngJob : public testing::Test {
+ protected:
+  PngJob() { options_.folder = scratch_.path() / "pictures"; }
+
+  int run(std::istream& stream, std::ostream& out) {
+    JobInput input(stream, "JOB");
+    return pngJob(input, options_, progress_, out, errors_);
+  }
+  int run(const JobBuilder& job) {
+    std::istringstream stream = job.stream();
+    return run(stream, lines_);
+  }
+  [[nodiscard]] std::string pathOf(const std::string& name) const {
+    return (options_.folder / (name + ".png")).string();
+  }
+  [[nodiscard]] PngPicture picture(const std::string& name) const { return readPng(pathOf(name)); }
+
+  test::TemporaryFolder scratch_;
+  PngOptions options_;
+  std::ostringstream lines_;
+  std::ostringstream errors_;
+  Progress progress_{errors_, false};
+};
+
+// Nine code words a row record without and eleven with the clear-row command, a word ahead of each:
+// 22 words and the trailer's 4 are filled up to 32, 64 bytes; 12 words to 16, 32 bytes.
+TEST_F(PngJob, EveryPageIsAPictureAndALine) {
+  EXPECT_EQ(run(twoPages()), kSound);
+  EXPECT_EQ(errors_.str(), "");
+  EXPECT_EQ(lines_.str(),
+            "page 1: 1 plane (K), 2 rows of 128 bits, 96 pixels of 1 bit, 1 band, 64 compressed "
+            "bytes: " +
+                pathOf("page-1") +
+                "\npage 2: 4 planes (CMYK), 1 row of 128 bits, 96 pixels of 1 bit, 4 bands, 128 "
+                "compressed bytes: " +
+                pathOf("page-2") + "\n");
+  const PngPicture mono = picture("page-1");
+  EXPECT_EQ(mono.width, 96U);
+  EXPECT_EQ(mono.height, 2U);
+  EXPECT_EQ(mono.channels, 1);
+  EXPECT_EQ(mono.samplesPerMetre, 23622U);  // 600 / 0.0254
+  Bytes expected(192, 255);
+  std::fill(expected.begin() + 4, expected.begin() + 8, std::uint8_t{0});
+  std::fill(expected.begin() + 96, expected.end(), std::uint8_t{0});
+  EXPECT_EQ(mono.samples, expected);
+  const PngPicture color = picture("page-2");
+  EXPECT_EQ(color.channels, 3);
+  EXPECT_EQ(Bytes(color.samples.begin(), color.samples.begin() + 3), (Bytes{0, 160, 225}));
+}
+
+TEST_F(PngJob, AReducedPictureSaysItsResolution) {
+  options_.reduction = 8;
+  EXPECT_EQ(run(twoPages()), kSound);
+  const PngPicture mono = picture("page-1");
+  EXPECT_EQ(mono.width, 12U);
+  EXPECT_EQ(mono.height, 1U);
+  EXPECT_EQ(mono.samplesPerMetre, 2953U);
+  // Of the first cell's 16 pixels 4 are white, of the others 8.
+  Bytes expected(12, 128);
+  expected[0] = 64;
+  EXPECT_EQ(mono.samples, expected);
+}
+
+TEST_F(PngJob, EachPlaneIsAPictureInGreyOfItsOwn) {
+  options_.planes = true;
+  EXPECT_EQ(run(twoPages()), kSound);
+  EXPECT_EQ(picture("page-1-black").samples, picture("page-1").samples);
+  EXPECT_EQ(picture("page-1-cyan").width, 0U);
+  EXPECT_EQ(picture("page-2-cyan").channels, 1);
+  EXPECT_EQ(picture("page-2-cyan").samples, Bytes(96, 0));
+  for (const char* plane : {"page-2-magenta", "page-2-yellow", "page-2-black"}) {
+    EXPECT_EQ(picture(plane).samples, Bytes(96, 255)) << plane;
+  }
+  EXPECT_NE(lines_.str().find("\npage 2, yellow: " + pathOf("page-2-yellow") + "\n"),
+            std::string::npos);
+}
+
+// Two black pages, whose numbers are 0 and 1, with eight pixels at their top left.
+class TurnedPngJob : public PngJob {
+ protected:
+  static JobBuilder sheet() {
+    JobBuilder job;
+    job.jobRecord(1).hostRecord();
+    for (const std::uint16_t number : std::initializer_list<std::uint16_t>{0, 1}) {
+      job.pageRecord({.rows = 2, .number = number, .heightMicrometres = 85});
+      job.band(Ink::kBlack, kFirst | kLast, {rowOf(0xFF), rowOf(0)});
+    }
+    return job.end();
+  }
+  [[nodiscard]] bool isTurned(int page) const {
+    const Bytes samples = picture("page-" + std::to_string(page)).samples;
+    EXPECT_EQ(samples.size(), 192U);
+    EXPECT_NE(samples.front(), samples.back());
+    return samples.front() == 255;
+  }
+};
+
+TEST_F(TurnedPngJob, NoPageIsTurnedUnlessAskedFor) {
+  EXPECT_EQ(run(sheet()), kSound);
+  EXPECT_FALSE(isTurned(1));
+  EXPECT_FALSE(isTurned(2));
+}
+
+TEST_F(TurnedPngJob, BacksAreThePagesWithOddNumbers) {
+  options_.turned = Turned::kBacks;
+  EXPECT_EQ(run(sheet()), kSound);
+  EXPECT_FALSE(isTurned(1));
+  EXPECT_TRUE(isTurned(2));
+}
+
+TEST_F(TurnedPngJob, FrontsAreTheOthers) {
+  options_.turned = Turned::kFronts;
+  EXPECT_EQ(run(sheet()), kSound);
+  EXPECT_TRUE(isTurned(1));
+  EXPECT_FALSE(isTurned(2));
+}
+
+TEST_F(TurnedPngJob, AllIsBoth) {
+  options_.turned = Turned::kAll;
+  EXPECT_EQ(run(sheet()), kSound);
+  EXPECT_TRUE(isTurned(1));
+  EXPECT_TRUE(isTurned(2));
+}
+
+TEST_F(PngJob, OnePageAloneKeepsItsNumber) {
+  options_.page = 2;
+  EXPECT_EQ(run(twoPages()), kSound);
+  EXPECT_EQ(picture("page-1").width, 0U);
+  EXPECT_EQ(picture("page-2").width, 96U);
+}
+
+TEST_F(PngJob, APageThatIsNotThereIsTold) {
+  options_.page = 3;
+  EXPECT_EQ(run(twoPages()), kUnusable);
+  EXPECT_EQ(errors_.str(), "gdiview: JOB: there is no page 3; the job has 2\n");
+}
+
+TEST_F(PngJob, AViolationIsALineAndAllPagesAreStillWritten) {
+  JobBuilder job = twoPages();
+  job.bytes().resize(kEndOffset);
+  EXPECT_EQ(run(job), kFaulty);
+  EXPECT_EQ(errors_.str(),
+            "gdiview: JOB: offset 752: end of the stream: end-mark: the stream ends without the "
+            "end-of-job mark (JIDG)\n");
+  EXPECT_EQ(picture("page-1").width, 96U);
+  EXPECT_EQ(picture("page-2").width, 96U);
+}
+
+TEST_F(PngJob, OfManyViolationsTheFirstTwentyAreTold) {
+  JobBuilder job;
+  job.jobRecord(1).hostRecord();
+  for (std::uint16_t page = 0; page < 25; ++page) {
+    job.pageRecord({.rows = 1, .channels = 3, .number = page});
+  }
+  EXPECT_EQ(run(job.end()), kFaulty);
+  const std::string errors = errors_.str();
+  EXPECT_EQ(std::count(errors.begin(), errors.end(), '\n'), 21);
+  EXPECT_NE(errors.find("gdiview: JOB: there is more, which gdiview check tells\n"),
+            std::string::npos);
+}
+
+TEST_F(PngJob, ANoteIsToldAndLeavesTheStatusAt0) {
+  JobBuilder job;
+  job.jobRecord(1).hostRecord().pageRecord({.rows = 257, .heightMicrometres = 10880});
+  job.band(Ink::kBlack, kFirst, jobtest::Rows(256, rowOf(0xFF))).end();
+  EXPECT_EQ(run(job), kSound);
+  EXPECT_EQ(errors_.str().find("gdiview: JOB: offset 272: page 1: note steps-left-out: "), 0U);
+  EXPECT_EQ(picture("page-1").height, 256U);
+}
+
+TEST_F(PngJob, AnInputThatCannotBeReadOnIsTold) {
+  Bytes bytes = twoPages().bytes();
+  bytes.resize(kPage2Offset);
+  FailingInput stream(bytes);
+  EXPECT_EQ(run(stream, lines_), kUnusable);
+  EXPECT_NE(errors_.str().find("gdiview: JOB: the input cannot be read beyond offset 432\n"),
+            std::string::npos);
+  EXPECT_EQ(picture("page-1").width, 96U);
+}
+
+TEST_F(PngJob, WhatIsNoJobStreamHasNoPictures) {
+  std::istringstream stream("%PDF-1.7\n");
+  EXPECT_EQ(run(stream, lines_), kUnusable);
+  EXPECT_EQ(errors_.str(), "gdiview: JOB: this is no job stream: it begins like a PDF document\n");
+  EXPECT_EQ(lines_.str(), "");
+}
+
+TEST_F(PngJob, LinesThatCannotBeWrittenAreAFailure) {
+  std::ofstream full("/dev/full");
+  if (!full) {
+    GTEST_SKIP() << "there is no /dev/full";
+  }
+  std::istringstream stream = twoPages().stream();
+  EXPECT_EQ(run(stream, full), kUnusable);
+  EXPECT_EQ(errors_.str(), "gdiview: standard output: No space left on device\n");
+  EXPECT_EQ(picture("page-2").width, 96U);
+}
+
+TEST_F(PngJob, APageWithoutRowsHasNoPicture) {
+  JobBuilder job;
+  job.jobRecord(1).hostRecord().pageRecord({}).end();
+  EXPECT_EQ(run(job), kSound);
+  EXPECT_NE(lines_.str().find("0 bands, 0 compressed bytes, no picture\n"), std::string::npos);
+  EXPECT_EQ(picture("page-1").width, 0U);
+}
+
+TEST_F(PngJob, AFolderThatCannotBeMadeIsTold) {
+  options_.folder = scratch_.write("file", "x") / "pictures";
+  EXPECT_EQ(run(twoPages()), kUnusable);
+  EXPECT_EQ(errors_.str(), "gdiview: " + options_.folder.string() + ": Not a directory\n");
+}
+
+TEST_F(PngJob, APictureThatCannotBeWrittenIsToldWithItsName) {
+  std::filesystem::create_directories(pathOf("page-1"));
+  EXPECT_EQ(run(twoPages()), kUnusable);
+  EXPECT_EQ(errors_.str(), "gdiview: " + pathOf("page-1") + ": Is a directory\n");
+}
+
+// The line is there while the first page is painted and gone ahead of its line.
+TEST_F(PngJob, ATerminalSeesHowFarTheJobHasBeenRead) {
+  Progress::Time now;
+  Progress progress(lines_, true, 756, [&now] { return now += std::chrono::seconds(2); });
+  std::istringstream stream = twoPages().stream();
+  JobInput input(stream, "JOB");
+  EXPECT_EQ(pngJob(input, options_, progress, lines_, errors_), kSound);
+  // The record behind a page is read before the page is known to be over.
+  EXPECT_EQ(lines_.str().find("\rgdiview: page 1, 65 %\r" + std::string(21, ' ') + "\rpage 1: "),
+            0U);
+}
+
+}  // namespace
+}  // namespace gdi::gdiview
