@@ -54,15 +54,11 @@ std::string checkResources(const std::string& text) {
   return has ? "" : "there is no Info.plist in " + text;
 }
 
-// The parser reads an enumeration as a number.
-std::string turnedPages(const std::string& text) {
-  static const std::map<std::string, Turned> kTurned{
-      {"backs", Turned::kBacks}, {"fronts", Turned::kFronts}, {"all", Turned::kAll}};
-  const auto turned = kTurned.find(text);
-  if (turned == kTurned.end()) {
-    throw CLI::ValidationError("it must be backs, fronts or all, not " + text);
-  }
-  return std::to_string(static_cast<int>(turned->second));
+const std::map<std::string, Turned> kTurned{
+    {"backs", Turned::kBacks}, {"fronts", Turned::kFronts}, {"all", Turned::kAll}};
+
+std::string checkTurned(const std::string& text) {
+  return kTurned.contains(text) ? "" : "it must be backs, fronts or all, not " + text;
 }
 
 // The commands with their options, each bound to its place in `line`.
@@ -93,6 +89,7 @@ class Parser {
   void finish() {
     line_.png.reduction = reductionOf(scale_).value_or(1);
     line_.diff.reduction = line_.png.reduction;
+    line_.png.turned = turned_.empty() ? Turned::kNone : kTurned.at(turned_);
     if (!diffFolder_.empty()) {
       line_.diff.folder = diffFolder_;
     }
@@ -143,14 +140,14 @@ class Parser {
     command.add_flag("--planes", line_.png.planes,
                      "Each plane by itself as well, in grey: page-1-cyan.png and so on");
     addScale(command);
+    // A flag, so that a bare one does not take the job's name for its value.
     command
-        .add_option("--upright", line_.png.turned,
-                    "Turn pages by 180 degrees: backs (the 2nd, 4th and so on) of a duplex job\n"
-                    "whose model turns them, fronts, or all. The stream does not tell which")
-        ->option_text("[backs|fronts|all]")
-        ->expected(0, 1)
-        ->default_str("backs")
-        ->transform(turnedPages);
+        .add_flag(
+            "--upright{backs}", turned_,
+            "Turn pages by 180 degrees: backs (odd page numbers, counted from 0) of a duplex\n"
+            "job whose model turns them, fronts, or all. The stream does not tell which;\n"
+            "backs if left out: --upright, --upright=fronts")
+        ->check(checkTurned);
     addPage(command, line_.png.page);
     addResources(command);
   }
@@ -199,13 +196,14 @@ class Parser {
     command
         .add_option("--resources", resources_,
                     "The filter's resources, whose Info.plist tells how long the prologue is;\n"
-                    "those that are installed if left out")
+                    "those beside the program or installed with it if left out")
         ->option_text("FOLDER")
         ->check(checkResources);
   }
 
   CommandLine& line_;
   std::string scale_ = "1/1";
+  std::string turned_;  // empty, or a name of kTurned
   std::string diffFolder_;
   std::string resources_;
   CLI::App app_{

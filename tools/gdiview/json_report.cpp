@@ -67,7 +67,7 @@ struct RecordAsJson {
     json["first"] = band.record.first();
     json["last"] = band.record.last();
     json["compressed_bytes"] = band.data.size();
-    json["row_bytes"] = std::uint64_t{band.record.rows} * job.rowBytes;
+    json["uncompressed_bytes"] = std::uint64_t{band.record.rows} * job.rowBytes;
     json["decodes"] = job.sound;
     return json;
   }
@@ -106,7 +106,7 @@ class JsonReport : public InfoReport {
                          {"row_bits", page.rowBits},
                          {"planes", planes},
                          {"compressed_bytes", page.compressedBytes},
-                         {"row_bytes", page.bytesOfRows()}};
+                         {"uncompressed_bytes", page.bytesOfRows()}};
     if (page.largestBandBytes > 0) {
       json["largest_band"] = {{"plane", nameOf(page.largestBand.ink)},
                               {"band", page.largestBand.index},
