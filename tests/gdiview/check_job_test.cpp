@@ -107,19 +107,21 @@ TEST_F(CheckJob, QuietStillTellsViolations) {
 }
 
 TEST_F(CheckJob, EveryOneOfManyViolationsIsTold) {
-  JobBuilder job = twoPages();
-  for (std::size_t at = 36; at < 40; ++at) {
-    job.patch(0, at, {1});
-  }
-  for (const std::size_t band : {kBand1Offset, kBand2Offset, kBand2Offset + 64}) {
-    job.patch(band, 28, {1});
+  JobBuilder job;
+  job.jobRecord(1).hostRecord();
+  for (std::uint16_t page = 0; page < 25; ++page) {
+    job.pageRecord({.rows = 1, .channels = 3, .number = page});
   }
   options_.quiet = true;
-  EXPECT_EQ(run(job), kFaulty);
-  EXPECT_NE(lines_.str().find("\nJOB: offset 524: page 2, black band 0: zero-field: "),
-            std::string::npos);
-  EXPECT_NE(lines_.str().find("\nJOB: offset 588: page 2, cyan band 0: zero-field: "),
-            std::string::npos);
+  EXPECT_EQ(run(job.end()), kFaulty);
+  for (std::size_t page = 0; page < 25; ++page) {
+    // Page records are 64 bytes long, and the number of planes is at byte 32.
+    EXPECT_NE(lines_.str().find("JOB: offset " + std::to_string(272 + 64 * page + 32) + ": page " +
+                                std::to_string(page + 1) +
+                                ": channels: the page has 3 planes, not 1 or 4\n"),
+              std::string::npos)
+        << page;
+  }
 }
 
 // Twenty bytes of the black band record of page 2 are left, which begins at 496.
