@@ -160,6 +160,20 @@ TEST_F(DiffJobs, ABandWithOtherBytesForTheSameRowsIsTold) {
             "page 1, black: 1 band with different bytes for the same rows, the first is 0\n");
 }
 
+// The row's record has 11 words, or 8 filler words more; 4 words of trailer follow.
+TEST_F(DiffJobs, TheLengthOfARecodedBandIsNoDifferenceOfItsOwn) {
+  std::vector<std::uint16_t> words{19, 0x3F00, 0xFFFF, 7, 0xF000, 0, 0, 0, 0, 0, 0, 0};
+  words.insert(words.end(), 8, 0x00FE);
+  words.insert(words.end(), {0x0002, 0x3F00, 0xFFFF, 0x0000});
+  JobBuilder longer;
+  longer.jobRecord(1).hostRecord().pageRecord({.rows = 1});
+  longer.band({.flags = kFirst | kLast, .rows = 1}, jobtest::bandOfWords(words)).end();
+  const JobBuilder shorter = blackPage(1, {rowOf(0xF0)});
+  ASSERT_EQ(longer.size(), shorter.size() + 16);
+  EXPECT_EQ(told(shorter, longer),
+            "page 1, black: 1 band with different bytes for the same rows, the first is 0\n");
+}
+
 // 0x0F and 0x2C differ in 0b00100011.
 TEST_F(DiffJobs, PixelsAreCountedAndTheFirstIsNamed) {
   EXPECT_EQ(told(twoPages("Report", 0x0F), twoPages("Report", 0x2C)),
