@@ -3,7 +3,7 @@
 
 #include "reader/band_order.h"
 
-#include <map>
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -12,14 +12,24 @@
 namespace gdi::reader {
 namespace {
 
-// The whole page's order as text, "K0 K1 ... C0 ...", by asking again and again.
+// The whole page's order as text, "K0 K1 ... C0 ...", by sending what is expected.
 std::vector<std::string> orderOf(std::uint32_t bands) {
-  std::vector<std::string> order;
-  BandCounts arrived{};
-  while (const std::optional<Ink> ink = nextInWriterOrder(arrived, bands)) {
-    order.push_back("CMYK"[indexOf(*ink)] + std::to_string(arrived[indexOf(*ink)]++));
+  std::vector<std::string> names;
+  BandCounts sent{};
+  BandOrder order(bands);
+  while (const std::optional<Ink> ink = order.expected()) {
+    names.push_back("CMYK"[indexOf(*ink)] + std::to_string(sent[indexOf(*ink)]++));
+    EXPECT_TRUE(order.take(*ink)) << names.back();
   }
-  return order;
+  return names;
+}
+
+// Follows bands as their letters say. requires: each is the next one
+void takeAll(BandOrder& order, const std::string& letters) {
+  for (const char letter : letters) {
+    const auto ink = static_cast<Ink>(std::string("CMYK").find(letter));
+    EXPECT_TRUE(order.take(ink)) << letter << " of " << letters;
+  }
 }
 
 TEST(BandOrder, AShortPageSendsItsPlanesOneAfterTheOther) {
@@ -36,6 +46,14 @@ TEST(BandOrder, CyanTrailsBlackBySixBands) {
   EXPECT_EQ(order.back(), "Y27");
 }
 
+TEST(BandOrder, StepEighteenSendsABandOfEveryPlane) {
+  const std::vector<std::string> order = orderOf(28);
+  const auto black = std::ranges::find(order, "K18");
+  ASSERT_GE(order.end() - black, 4);
+  EXPECT_EQ(std::vector<std::string>(black, black + 4),
+            (std::vector<std::string>{"K18", "C12", "M6", "Y0"}));
+}
+
 TEST(BandOrder, StepsSendBlackAtOnceAndTheOtherPlanesBehindTheirLags) {
   // Indexed cyan, magenta, yellow, black.
   EXPECT_EQ(bandsOfSteps(0, 28), (BandCounts{0, 0, 0, 0}));
@@ -45,17 +63,39 @@ TEST(BandOrder, StepsSendBlackAtOnceAndTheOtherPlanesBehindTheirLags) {
   EXPECT_EQ(bandsOfSteps(46, 28), (BandCounts{28, 28, 28, 28}));
 }
 
-TEST(BandOrder, StepEighteenSendsABandOfEveryPlane) {
-  const std::vector<std::string> order = orderOf(28);
-  const auto black = std::find(order.begin(), order.end(), "K18");
-  ASSERT_GE(order.end() - black, 4);
-  EXPECT_EQ(std::vector<std::string>(black, black + 4),
-            (std::vector<std::string>{"K18", "C12", "M6", "Y0"}));
+TEST(BandOrder, APageWithoutBandsExpectsNone) {
+  BandOrder order(0);
+  EXPECT_EQ(order.expected(), std::nullopt);
+  EXPECT_FALSE(order.take(Ink::kBlack));
 }
 
-TEST(BandOrder, AnotherOrderTellsNothing) {
-  EXPECT_EQ(nextInWriterOrder({1, 0, 0, 0}, 28), std::nullopt);
-  EXPECT_EQ(nextInWriterOrder({0, 0, 0, 0}, 0), std::nullopt);
+TEST(BandOrder, ABandTooManyIsOutOfOrder) {
+  BandOrder order(1);
+  takeAll(order, "KCMY");
+  EXPECT_EQ(order.expected(), std::nullopt);
+  EXPECT_FALSE(order.take(Ink::kYellow));
+}
+
+TEST(BandOrder, ALostBandIsToldOnce) {
+  BandOrder order(28);
+  takeAll(order, "KKKKKKK");
+  EXPECT_EQ(order.expected(), Ink::kCyan);
+  EXPECT_FALSE(order.take(Ink::kBlack));
+  takeAll(order, "CKCKC");
+}
+
+TEST(BandOrder, WhoeverComesEarlyIsOutOfOrderAndNotThoseThatItOvertook) {
+  BandOrder order(1);
+  EXPECT_FALSE(order.take(Ink::kMagenta));
+  takeAll(order, "CKY");
+  EXPECT_EQ(order.expected(), std::nullopt);
+}
+
+TEST(BandOrder, ABandFarTooEarlyLeavesTheOrderWhereItIs) {
+  BandOrder order(28);
+  EXPECT_FALSE(order.take(Ink::kCyan));
+  EXPECT_EQ(order.expected(), Ink::kBlack);
+  takeAll(order, "KKKKKKKC");
 }
 
 }  // namespace

@@ -7,71 +7,101 @@
 #include <gtest/gtest.h>
 
 #include "reader/RecordReader.h"
-#include "tests/jobs/job_builder.h"
+#include "tests/reader/breaches.h"
 
 namespace gdi::reader {
 namespace {
 
+using jobtest::Bytes;
 using jobtest::JobBuilder;
 using jobtest::kFirst;
 using jobtest::kLast;
 
-// One letter a record: j h p b, e for the end of the job, ! for a trouble.
-std::string walk(const JobBuilder& job) {
+std::vector<RecordStep> stepsOf(const JobBuilder& job) {
   std::istringstream input = job.stream();
   RecordReader reader(input);
+  std::vector<RecordStep> steps;
+  while (std::optional<RecordStep> step = reader.next()) {
+    steps.push_back(std::move(*step));
+  }
+  return steps;
+}
+
+// One letter a step behind the prologue: j h p b, e for the end of the job, ? for a gap, ! for the
+// end of a stream that breaks off. A star follows a step in which there is a flaw.
+std::string walk(const JobBuilder& job) {
   std::string letters;
-  while (const std::optional<Record> record = reader.next()) {
-    letters += "jhpbe!"[record->index()];
+  for (const RecordStep& step : stepsOf(job)) {
+    if (!std::holds_alternative<Prologue>(step.record)) {
+      letters += " jhpbe?!"[step.record.index()];
+      letters += step.flaws.empty() ? "" : "*";
+    }
   }
   return letters;
 }
 
-Trouble troubleOf(const JobBuilder& job) {
-  std::istringstream input = job.stream();
-  RecordReader reader(input);
-  while (const std::optional<Record> record = reader.next()) {
-    if (const auto* trouble = std::get_if<Trouble>(&*record)) {
-      return *trouble;
+struct Told {
+  std::uint64_t offset = 0;  // in the stream
+  Rule rule = Rule::kTag;
+  std::string text;
+};
+
+// The flaws of all steps.
+std::vector<Told> toldOf(const JobBuilder& job) {
+  std::vector<Told> told;
+  for (const RecordStep& step : stepsOf(job)) {
+    for (const Flaw& flaw : step.flaws) {
+      told.push_back({step.offset + flaw.offset, flaw.rule, flaw.text});
     }
   }
-  return {0, "none"};
+  return told;
 }
 
-JobBuilder headers() {
-  JobBuilder job;
-  job.jobRecord(1).hostRecord();
-  return job;
+// The only flaw.
+Told flawOf(const JobBuilder& job) {
+  const std::vector<Told> told = toldOf(job);
+  EXPECT_EQ(told.size(), 1U);
+  return told.empty() ? Told() : told.front();
 }
 
 TEST(RecordReader, GivesTheRecordsInTheirOrder) {
   JobBuilder job = headers();
-  job.pageRecord({.rows = 2}).band(Ink::kBlack, kFirst | kLast, jobtest::solidRows(2, 16, 1));
+  job.pageRecord({.rows = 2}).band(Ink::kBlack, kFirst | kLast, inkedRows(2));
   EXPECT_EQ(walk(job.pageRecord({}).end()), "jhpbpe");
+}
+
+TEST(RecordReader, GivesEveryByteInOneStep) {
+  JobBuilder job;
+  job.text("wake up").raw(blackJob().bytes()).text("behind the end");
+  std::uint64_t offset = 0;
+  for (const RecordStep& step : stepsOf(job)) {
+    EXPECT_EQ(step.offset, offset);
+    offset += step.bytes;
+  }
+  EXPECT_EQ(offset, job.size());
 }
 
 TEST(RecordReader, PassesOverAPrologueOfAnyLength) {
   for (const std::size_t length : std::initializer_list<std::size_t>{0, 1, 7, 8, 9, 100'000}) {
     JobBuilder job;
     job.text(std::string(length, 'G')).jobRecord(2).hostRecord().end();
-    std::istringstream input = job.stream();
-    RecordReader reader(input);
-    const std::optional<Record> first = reader.next();
-    ASSERT_TRUE(first && std::holds_alternative<JobRecord>(*first)) << length;
-    EXPECT_EQ(std::get<JobRecord>(*first).bitsPerPixel, 2U);
-    EXPECT_EQ(reader.prologueBytes(), length);
-    EXPECT_EQ(reader.recordOffset(), length);
+    const std::vector<RecordStep> steps = stepsOf(job);
+    ASSERT_EQ(steps.size(), 4U) << length;
+    ASSERT_TRUE(std::holds_alternative<Prologue>(steps[0].record));
+    EXPECT_EQ(steps[0].bytes, length);
+    EXPECT_EQ(std::get<Prologue>(steps[0].record).start,
+              Bytes(std::min<std::size_t>(length, 1024), 'G'));
+    ASSERT_TRUE(std::holds_alternative<JobRecord>(steps[1].record)) << length;
+    EXPECT_EQ(std::get<JobRecord>(steps[1].record).bitsPerPixel, 2U);
+    EXPECT_EQ(steps[1].offset, length);
   }
 }
 
 TEST(RecordReader, APrologueThatNamesTheTagIsNoJobRecord) {
   JobBuilder job;
   job.text("GDIGDIJGDI").jobRecord(1).hostRecord().end();
-  std::istringstream input = job.stream();
-  RecordReader reader(input);
-  const std::optional<Record> first = reader.next();
-  ASSERT_TRUE(first && std::holds_alternative<JobRecord>(*first));
-  EXPECT_EQ(reader.prologueBytes(), 10U);
+  EXPECT_EQ(walk(job), "jhe");
+  EXPECT_EQ(stepsOf(job).front().bytes, 10U);
 }
 
 TEST(RecordReader, AJobWithoutPagesIsAPrologueAndTheEndMark) {
@@ -80,74 +110,78 @@ TEST(RecordReader, AJobWithoutPagesIsAPrologueAndTheEndMark) {
   EXPECT_EQ(walk(JobBuilder().end()), "e");
 }
 
-TEST(RecordReader, AnInputWithoutAnyRecordIsTrouble) {
-  EXPECT_EQ(walk(JobBuilder()), "!");
-  JobBuilder text;
-  text.text("no job at all");
-  EXPECT_EQ(troubleOf(text).offset, 13U);
+TEST(RecordReader, AnInputWithoutAnyRecordIsAPrologueAlone) {
+  for (const char* text : {"", "no job at all"}) {
+    std::istringstream input(text);
+    RecordReader reader(input);
+    const std::optional<RecordStep> prologue = reader.next();
+    ASSERT_TRUE(prologue && std::holds_alternative<Prologue>(prologue->record)) << text;
+    EXPECT_EQ(prologue->bytes, std::string(text).size());
+    EXPECT_FALSE(reader.next());
+    EXPECT_FALSE(reader.foundRecord());
+    EXPECT_FALSE(reader.failed());
+  }
 }
 
 TEST(RecordReader, ABandBringsItsDataAndItsPlane) {
-  const jobtest::Bytes data{1, 2, 3, 4};
+  const Bytes data{1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16};
   JobBuilder job = headers();
   job.pageRecord({}).band({.ink = Ink::kMagenta, .rows = 1}, data).end();
-  std::istringstream input = job.stream();
-  RecordReader reader(input);
-  reader.next();
-  reader.next();
-  reader.next();
-  const std::optional<Record> record = reader.next();
-  ASSERT_TRUE(record && std::holds_alternative<Band>(*record));
-  EXPECT_EQ(reader.recordOffset(), 120U + 152 + 64);
-  EXPECT_EQ(std::get<Band>(*record).ink, Ink::kMagenta);
-  EXPECT_EQ(std::get<Band>(*record).data, data);
+  const std::vector<RecordStep> steps = stepsOf(job);
+  ASSERT_EQ(steps.size(), 6U);
+  ASSERT_TRUE(std::holds_alternative<Band>(steps[4].record));
+  EXPECT_EQ(steps[4].offset, 120U + 152 + 64);
+  EXPECT_EQ(steps[4].bytes, 32U + 16);
+  EXPECT_EQ(steps[4].header.size(), 32U);
+  EXPECT_EQ(std::get<Band>(steps[4].record).ink, Ink::kMagenta);
+  EXPECT_EQ(std::get<Band>(steps[4].record).data, data);
 }
 
 TEST(RecordReader, ABandThatFailedToCompressHasNoPlaneAndNoData) {
   JobBuilder job = headers();
   job.pageRecord({}).bandRecord({.rows = 1}, 0).end();
   EXPECT_EQ(walk(job), "jhpbe");
+  const std::vector<RecordStep> steps = stepsOf(job);
+  ASSERT_EQ(steps.size(), 6U);
+  EXPECT_EQ(std::get<Band>(steps[4].record).ink, std::nullopt);
+  EXPECT_TRUE(std::get<Band>(steps[4].record).data.empty());
 }
 
-TEST(RecordReader, AnUnknownTagIsTroubleWhereItStands) {
+TEST(RecordReader, AnUnknownTagIsAGapUpToTheNextRecord) {
   JobBuilder job = headers();
-  job.text("GDIX").end();
-  EXPECT_EQ(walk(job), "jh!");
-  EXPECT_EQ(troubleOf(job).offset, 272U);
-  EXPECT_NE(troubleOf(job).text.find("47 44 49 58"), std::string::npos);
+  job.text("GDIX").pageRecord({}).end();
+  EXPECT_EQ(walk(job), "jh?*pe");
+  EXPECT_EQ(flawOf(job).offset, 272U);
+  EXPECT_EQ(flawOf(job).text, "no record begins with 47 44 49 58; 4 bytes passed over");
 }
 
-TEST(RecordReader, RecordsOutOfOrderAreTrouble) {
+TEST(RecordReader, RecordsOutOfOrderAreGivenAllTheSame) {
   JobBuilder noHost;
-  EXPECT_EQ(walk(noHost.jobRecord(1).pageRecord({})), "j!");
+  EXPECT_EQ(walk(noHost.jobRecord(1).pageRecord({}).end()), "jp*e");
   JobBuilder noPage = headers();
-  EXPECT_EQ(walk(noPage.bandRecord({}, 0)), "jh!");
+  EXPECT_EQ(walk(noPage.bandRecord({.rows = 1}, 0).end()), "jhb*e");
   JobBuilder twice = headers();
-  EXPECT_EQ(walk(twice.jobRecord(1)), "jh!");
+  EXPECT_EQ(walk(twice.jobRecord(1).hostRecord().end()), "jhj*he");
 }
 
-TEST(RecordReader, BytesBehindTheEndMarkAreTrouble) {
+TEST(RecordReader, BytesBehindTheEndMarkAreAGapAndToldOnce) {
   JobBuilder job = headers();
   job.end().text("x");
-  EXPECT_EQ(walk(job), "jh!");
-  EXPECT_EQ(troubleOf(job).offset, 276U);
+  EXPECT_EQ(walk(job), "jhe?*");
+  EXPECT_EQ(flawOf(job).offset, 276U);
+  EXPECT_EQ(walk(job.raw(headers().bytes()).end()), "jhe?*jhe");
+  EXPECT_EQ(flawOf(job).rule, Rule::kAfterEnd);
 }
 
-TEST(RecordReader, ALyingRecordLengthIsTrouble) {
+TEST(RecordReader, ALyingRecordLengthLeavesTheRecordsWhereTheyAre) {
   for (const std::size_t record : std::initializer_list<std::size_t>{0, 120, 272}) {
     JobBuilder job = headers();
     job.pageRecord({}).end();
     job.bytes()[record + 7] ^= 1;
-    EXPECT_EQ(walk(job).back(), '!') << record;
-    EXPECT_EQ(troubleOf(job).offset, record + 4);
+    const std::string letters = walk(job);
+    EXPECT_EQ(letters, record == 0 ? "j*hpe" : record == 120 ? "jh*pe" : "jhp*e");
+    EXPECT_EQ(flawOf(job).offset, record + 4);
   }
-}
-
-TEST(RecordReader, AnAnnouncedHostRecordOfAnotherLengthIsTrouble) {
-  JobBuilder job = headers();
-  job.bytes()[19] = 153;
-  EXPECT_EQ(walk(job), "!");
-  EXPECT_EQ(troubleOf(job).offset, 18U);
 }
 
 TEST(RecordReader, OnlyOneTwoAndFourBitsAPixelAreTaken) {
@@ -155,33 +189,59 @@ TEST(RecordReader, OnlyOneTwoAndFourBitsAPixelAreTaken) {
     JobBuilder job = headers();
     job.end().bytes()[33] = static_cast<std::uint8_t>(minus1);
     const bool known = minus1 == 0 || minus1 == 1 || minus1 == 3;
-    EXPECT_EQ(walk(job), known ? "jhe" : "!") << minus1;
+    EXPECT_EQ(walk(job), known ? "jhe" : "j*he") << minus1;
   }
 }
 
-TEST(RecordReader, TwoLengthsInOneBandRecordAreTrouble) {
+TEST(RecordReader, TwoLengthsInOneBandRecordLeaveItsDataAGap) {
   JobBuilder job = headers();
-  job.pageRecord({}).bandRecord({.ink = Ink::kBlack}, 16);
+  job.pageRecord({}).bandRecord({.ink = Ink::kBlack, .rows = 1}, 16);
   const std::size_t band = job.size() - 32;
   job.bytes()[band + 15] = 16;
-  job.raw(jobtest::Bytes(32)).end();
-  EXPECT_EQ(walk(job), "jhp!");
-  EXPECT_EQ(troubleOf(job).offset, band + 8);
+  job.raw(Bytes(32)).end();
+  EXPECT_EQ(walk(job), "jhpb*?e");
+  EXPECT_EQ(flawOf(job).offset, band + 8);
 }
 
 TEST(RecordReader, ALyingBandLengthCostsNoMemory) {
   JobBuilder job = headers();
-  job.pageRecord({}).bandRecord({.rows = 256}, 0xFFFFFFFF).raw(jobtest::Bytes(100));
-  const Trouble trouble = troubleOf(job);
-  EXPECT_EQ(trouble.offset, job.size());
-  EXPECT_EQ(trouble.text, "the stream ends after 100 of the black band's 4294967295 bytes");
+  job.pageRecord({}).bandRecord({.rows = 256}, 0xFFFFFFFF).raw(Bytes(100)).end();
+  EXPECT_EQ(walk(job), "jhpb*?e");
+  EXPECT_EQ(flawOf(job).rule, Rule::kBandLength);
+  for (const RecordStep& step : stepsOf(job)) {
+    if (const auto* band = std::get_if<Band>(&step.record)) {
+      EXPECT_EQ(band->data.capacity(), 0U);
+    }
+  }
 }
 
-TEST(RecordReader, ABandLengthThatIsTooShortIsTroubleAtTheNextTag) {
+TEST(RecordReader, AStreamThatEndsInABandBreaksOff) {
   JobBuilder job = headers();
-  job.pageRecord({}).bandRecord({.rows = 1}, 16).raw(jobtest::Bytes(32)).end();
-  EXPECT_EQ(walk(job), "jhpb!");
-  EXPECT_EQ(troubleOf(job).offset, job.size() - 4 - 16);
+  job.pageRecord({}).bandRecord({.rows = 256}, 16'000).raw(Bytes(100));
+  EXPECT_EQ(walk(job), "jhp!*");
+  const Told told = flawOf(job);
+  EXPECT_EQ(told.offset, job.size());
+  EXPECT_EQ(told.rule, Rule::kTruncated);
+  EXPECT_EQ(told.text, "the stream ends after 100 of the black band's 16000 bytes");
+}
+
+TEST(RecordReader, ABandLengthThatIsTooShortLeavesAGap) {
+  JobBuilder job = headers();
+  job.pageRecord({}).bandRecord({.rows = 1}, 16).raw(Bytes(32)).end();
+  EXPECT_EQ(walk(job), "jhpb?*e");
+  EXPECT_EQ(flawOf(job).offset, job.size() - 4 - 16);
+}
+
+TEST(RecordReader, ABandLengthThatIsTooLongEndsWhereTheNextRecordBegins) {
+  JobBuilder job = headers();
+  job.pageRecord({}).bandRecord({.rows = 1}, 64).raw(Bytes(32, 7)).pageRecord({}).end();
+  EXPECT_EQ(walk(job), "jhpb*pe");
+  const Told told = flawOf(job);
+  EXPECT_EQ(told.offset, 336U + 8);
+  EXPECT_EQ(told.text, "the band has 64 bytes, and yet a record begins after 32 bytes");
+  const std::vector<RecordStep> steps = stepsOf(job);
+  ASSERT_EQ(steps.size(), 7U);
+  EXPECT_EQ(std::get<Band>(steps[4].record).data, Bytes(32, 7));
 }
 
 }  // namespace

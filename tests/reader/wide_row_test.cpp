@@ -5,8 +5,9 @@
 
 #include <gtest/gtest.h>
 
-#include "reader/JobReader.h"
-#include "tests/jobs/job_builder.h"
+#include "reader/row_width.h"
+#include "tests/jobs/read_job.h"
+#include "tests/jobs/sound_page.h"
 
 namespace gdi::reader {
 namespace {
@@ -15,13 +16,15 @@ using jobtest::Bytes;
 using jobtest::JobBuilder;
 using jobtest::kFirst;
 using jobtest::kLast;
+using jobtest::ReadJob;
 using jobtest::Rows;
-using jobtest::solidRows;
+using jobtest::SoundPage;
 
 // 17,000 pixels of 4 bits and 32 bits more are 68,032 bits, in multiples of 128 bits 68,096, of
 // which the records tell 2,560.
 constexpr std::size_t kWideRowBytes = 8512;
 constexpr std::uint16_t kTold = 2560;
+constexpr std::uint32_t kWidePixels = 17000;
 constexpr std::uint32_t kWidePaper = 719667;  // micrometres: 17,000 pixels
 
 PageRecord recordOf(std::uint16_t rowBits, std::uint32_t widthMicrometres) {
@@ -31,28 +34,33 @@ PageRecord recordOf(std::uint16_t rowBits, std::uint32_t widthMicrometres) {
   return record;
 }
 
-struct ReadPage {
-  Page page;
-  std::vector<Trouble> troubles;
-};
+// Rows one after the other.
+Bytes joined(const Rows& rows) {
+  Bytes bytes;
+  for (const Bytes& row : rows) {
+    bytes.insert(bytes.end(), row.begin(), row.end());
+  }
+  return bytes;
+}
 
-ReadPage readOne(const JobBuilder& job) {
-  std::istringstream input = job.stream();
-  JobReader reader(input);
-  ReadPage read;
-  read.page = reader.nextPage().value_or(Page());
-  EXPECT_FALSE(reader.nextPage());
-  read.troubles = reader.takeTroubles();
-  return read;
+// Pixels of 4 bits that are black all over.
+SoundPage blackPage(std::uint32_t widthPixels, std::uint32_t rows) {
+  return {.rows = rows, .widthPixels = widthPixels, .bitsPerPixel = 4, .ink = 0xFF};
+}
+
+JobBuilder headers() {
+  JobBuilder job;
+  job.jobRecord(4).hostRecord();
+  return job;
 }
 
 // A page whose first band is blank and whose second is black all over.
-JobBuilder blankThenBlack(std::uint16_t told, std::size_t rowBytes, std::uint32_t paper) {
-  JobBuilder job;
-  job.jobRecord(4).hostRecord();
-  job.pageRecord({.rowBits = told, .rows = 258, .widthMicrometres = paper});
-  job.band(Ink::kBlack, kFirst, solidRows(256, rowBytes, 0));
-  return job.band(Ink::kBlack, kLast, solidRows(2, rowBytes, 0xFF)).end();
+JobBuilder blankThenBlack(std::uint32_t widthPixels, std::size_t rowBytes) {
+  const SoundPage page = blackPage(widthPixels, 258);
+  JobBuilder job = headers();
+  job.pageRecord(fieldsOf(page));
+  job.band(Ink::kBlack, kFirst, jobtest::solidRows(256, rowBytes, 0));
+  return job.band(Ink::kBlack, kLast, rowsOf(page, 2)).end();
 }
 
 // A blank band as writers send it, which is the same for rows of any length.
@@ -87,61 +95,71 @@ TEST(RowWidth, StaysWithinTheLongestRowThatIsSent) {
 }
 
 TEST(WideRow, Of17000PixelsOf4BitsIsReadWhole) {
-  const ReadPage read = readOne(blankThenBlack(kTold, kWideRowBytes, kWidePaper));
-  EXPECT_TRUE(read.troubles.empty()) << read.troubles.front().text;
-  EXPECT_EQ(read.page.rowBits, 68096U);
-  EXPECT_EQ(read.page.widthPixels(), 17000U);
-  EXPECT_EQ(read.page.plane(Ink::kBlack).rowsOfBand(1), Bytes(2 * kWideRowBytes, 0xFF));
+  const ReadJob read = readJob(blankThenBlack(kWidePixels, kWideRowBytes));
+  EXPECT_EQ(read.told(), "");
+  ASSERT_EQ(read.pages.size(), 1U);
+  const Page& page = read.pages.front();
+  EXPECT_EQ(page.record.rowBits, kTold);
+  EXPECT_EQ(page.rowBits, 68096U);
+  EXPECT_EQ(page.widthPixels(), 17000U);
+  const Bytes black = page.plane(Ink::kBlack).rowsOfBand(1);
+  ASSERT_EQ(black.size(), 2 * kWideRowBytes);
+  EXPECT_EQ(Bytes(black.begin(), black.begin() + 8500), Bytes(8500, 0xFF));
 }
 
 TEST(WideRow, OfNoToldBitsIsLegal) {
   // 16,376 pixels of 4 bits: 65,504 and 32 bits are 65,536.
-  const ReadPage read = readOne(blankThenBlack(0, 8192, 693251));
-  EXPECT_TRUE(read.troubles.empty()) << read.troubles.front().text;
-  EXPECT_EQ(read.page.widthPixels(), 16376U);
-  EXPECT_EQ(read.page.plane(Ink::kBlack).rowsOfBand(1), Bytes(16384, 0xFF));
+  const ReadJob read = readJob(blankThenBlack(16376, 8192));
+  EXPECT_EQ(read.told(), "");
+  ASSERT_EQ(read.pages.size(), 1U);
+  const Page& page = read.pages.front();
+  EXPECT_EQ(page.record.rowBits, 0U);
+  EXPECT_EQ(page.widthPixels(), 16376U);
+  EXPECT_EQ(page.plane(Ink::kBlack).rowsOfBand(1), joined(rowsOf(blackPage(16376, 2), 2)));
 }
 
 TEST(WideRow, IsFoundWithoutThePapersHelpWhenTheFirstInkDoesNotFitAndIsNoted) {
-  JobBuilder job;
-  job.jobRecord(4).hostRecord();
-  job.pageRecord({.rowBits = kTold, .rows = 258, .widthMicrometres = 0});
-  job.band({.flags = kFirst, .rowBits = kTold, .rows = 256}, blankBand());
-  job.band(Ink::kBlack, kLast, solidRows(2, kWideRowBytes, 0xFF)).end();
-  const ReadPage read = readOne(job);
-  ASSERT_EQ(read.troubles.size(), 1U);
-  EXPECT_TRUE(read.troubles[0].note);
-  EXPECT_EQ(read.troubles[0].text,
-            "the page's rows are of 68096 bits, which its paper's width does not suggest");
-  EXPECT_EQ(read.page.rowBits, 68096U);
-  EXPECT_EQ(read.page.plane(Ink::kBlack).rowsOfBand(0), Bytes(256 * kWideRowBytes));
-  EXPECT_EQ(read.page.plane(Ink::kBlack).rowsOfBand(1), Bytes(2 * kWideRowBytes, 0xFF));
+  const SoundPage page = blackPage(kWidePixels, 258);
+  jobtest::PageFields fields = fieldsOf(page);
+  fields.widthMicrometres = 0;
+  JobBuilder job = headers();
+  job.pageRecord(fields).band({.flags = kFirst, .rowBits = kTold, .rows = 256}, blankBand());
+  job.band(Ink::kBlack, kLast, rowsOf(page, 2)).end();
+  const ReadJob read = readJob(job);
+  EXPECT_EQ(read.told(),
+            "offset 284: page 1: note wide-rows: the page's rows are of 68096 bits, which its "
+            "paper's width does not suggest\n");
+  ASSERT_EQ(read.pages.size(), 1U);
+  EXPECT_EQ(read.pages[0].rowBits, 68096U);
+  const StoredPlane& black = read.pages[0].plane(Ink::kBlack);
+  EXPECT_EQ(black.rowsOfBand(0), Bytes(256 * kWideRowBytes));
+  EXPECT_EQ(black.rowsOfBand(1), joined(rowsOf(page, 2)));
 }
 
 TEST(WideRow, OfFourPlanesHasTheSameLengthInAll) {
-  JobBuilder job;
-  job.jobRecord(4).hostRecord();
-  job.pageRecord({.rowBits = kTold, .rows = 1, .channels = 4, .widthMicrometres = 0});
-  for (const Ink ink : {Ink::kBlack, Ink::kCyan, Ink::kMagenta, Ink::kYellow}) {
-    job.band(ink, ink == Ink::kYellow ? kFirst | kLast : kFirst, solidRows(1, kWideRowBytes, 0x11));
-  }
-  const ReadPage read = readOne(job.end());
-  EXPECT_EQ(read.troubles.size(), 1U);
+  SoundPage page = blackPage(kWidePixels, 1);
+  page.color = true;
+  const ReadJob read = readJob(jobOf(page).patch(272, 56, {0, 0, 0, 0}));
+  EXPECT_EQ(read.rules(), "wide-rows");
+  ASSERT_EQ(read.pages.size(), 1U);
   for (const Ink ink : kInks) {
-    EXPECT_EQ(read.page.plane(ink).rowsOfBand(0), Bytes(kWideRowBytes, 0x11)) << nameOf(ink);
+    EXPECT_EQ(jobtest::rowsOf(read.pages[0].plane(ink)), joined(rowsOf(page, 1))) << nameOf(ink);
   }
 }
 
 TEST(WideRow, IsNotTriedOnceThereIsInk) {
-  JobBuilder job;
-  job.jobRecord(4).hostRecord();
-  job.pageRecord({.rowBits = kTold, .rows = 257, .widthMicrometres = 0});
-  job.band(Ink::kBlack, kFirst, solidRows(256, 320, 0xFF));
-  job.band(Ink::kBlack, kLast, solidRows(1, kWideRowBytes, 0xFF)).end();
-  const ReadPage read = readOne(job);
-  ASSERT_EQ(read.troubles.size(), 1U);
-  EXPECT_FALSE(read.troubles[0].note);
-  EXPECT_EQ(read.page.rowBits, 2560U);
+  // 632 pixels of 4 bits: 2,528 and 32 bits are 2,560.
+  const SoundPage narrow = blackPage(632, 257);
+  JobBuilder job = headers();
+  job.pageRecord(fieldsOf(narrow)).band(Ink::kBlack, kFirst, rowsOf(narrow, 256));
+  const std::size_t second = job.size();
+  job.band(Ink::kBlack, kLast, rowsOf(blackPage(kWidePixels, 1), 1)).end();
+  const ReadJob read = readJob(job);
+  ASSERT_EQ(read.rules(), "band-data");
+  EXPECT_EQ(read.findings[0].offset, second + 32);
+  EXPECT_EQ(read.findings[0].record, "page 1, black band 1");
+  EXPECT_EQ(read.pages.at(0).rowBits, 2560U);
+  EXPECT_EQ(read.pages.at(0).plane(Ink::kBlack).rowsOfBand(1), Bytes(320));
 }
 
 }  // namespace
