@@ -3,7 +3,6 @@
 
 #include "tools/gdiview/info_job.h"
 
-#include <fstream>
 #include <sstream>
 #include <string>
 
@@ -210,6 +209,15 @@ TEST_F(InfoJob, AnInputThatCannotBeReadOnIsToldWithWhatWasRead) {
   EXPECT_EQ(errors_.str(), "gdiview: JOB: the input cannot be read beyond offset 384\n");
   EXPECT_NE(out_.str().find(kPageLines + "page 1: "), std::string::npos);
   EXPECT_NE(out_.str().find("\noffset 342: the input cannot be read on\n"), std::string::npos);
+}
+
+TEST_F(InfoJob, AnInputThatCannotBeReadOnIsToldInJsonToo) {
+  options_.json = true;
+  Bytes bytes = onePage().bytes();
+  bytes.resize(kBandOffset + 32 + 10);
+  FailingInput stream(bytes);
+  EXPECT_EQ(run(stream), kUnusable);
+  EXPECT_NE(out_.str().find(R"("text":"the input cannot be read on")"), std::string::npos);
 }
 
 TEST_F(InfoJob, AnInputThatCannotBeReadAtAllPrintsNothing) {
