@@ -32,6 +32,11 @@ class InfoReport {
   virtual void end() = 0;
 };
 
+// Why the stream ends at a BrokenOff; the record's other flaws come ahead of that one.
+inline std::string brokenOffText(const reader::JobStep& job) {
+  return job.step.flaws.empty() ? "the input cannot be read on" : job.step.flaws.back().text;
+}
+
 // Lines for people, and one JSON document whose schema docs/gdiview.md tells. `out` must outlive
 // the report.
 std::unique_ptr<InfoReport> textReport(std::ostream& out);

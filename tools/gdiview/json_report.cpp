@@ -74,7 +74,7 @@ struct RecordAsJson {
   ordered_json operator()(const reader::EndOfJob&) const { return {{"kind", "end_of_job"}}; }
   ordered_json operator()(const reader::Gap&) const { return {{"kind", "gap"}}; }
   ordered_json operator()(const reader::BrokenOff&) const {
-    return {{"kind", "broken_off"}, {"text", job.step.flaws.front().text}};
+    return {{"kind", "broken_off"}, {"text", brokenOffText(job)}};
   }
 };
 

@@ -71,7 +71,7 @@ class TextReport : public InfoReport {
   void operator()(const reader::EndOfJob&) { heading("end-of-job mark") << '\n'; }
   void operator()(const reader::Gap&) { heading("no record") << '\n'; }
   void operator()(const reader::BrokenOff&) {
-    out_ << "offset " << step_->step.offset << ": " << step_->step.flaws.front().text << '\n';
+    out_ << "offset " << step_->step.offset << ": " << brokenOffText(*step_) << '\n';
   }
 
  private:

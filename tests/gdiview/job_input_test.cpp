@@ -1,0 +1,130 @@
+// SPDX-FileCopyrightText: 2026 The rasterToGDI authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include <sstream>
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include "tests/gdiview/small_jobs.h"
+#include "tests/support/TemporaryFolder.h"
+#include "tools/gdiview/JobInput.h"
+
+namespace gdi::gdiview {
+namespace {
+
+class PrologueBytes : public testing::Test {
+ protected:
+  // A bundle whose dictionary has this text under this key.
+  std::optional<std::uint64_t> of(const std::string& key, const std::string& text) {
+    folder_.write("Info.plist",
+                  "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<plist version=\"1.0\"><dict><key>" +
+                      key + "</key><string>" + text + "</string></dict></plist>\n");
+    return prologueBytesOf(folder_.path());
+  }
+
+  test::TemporaryFolder folder_;
+};
+
+TEST_F(PrologueBytes, TextInAsciiHasAsManyBytesAsCharacters) {
+  EXPECT_EQ(of("CUPSFileHeader", "@PJL\n"), 5U);
+}
+
+TEST_F(PrologueBytes, TextBeyondAsciiIsCountedInUtf16Units) {
+  EXPECT_EQ(of("CUPSFileHeader", "Grüße €"), 7U);             // 10 bytes
+  EXPECT_EQ(of("CUPSFileHeader", "a\xF0\x9F\x96\xA8z"), 4U);  // 6 bytes: a pair counts two
+}
+
+TEST_F(PrologueBytes, AMissingFileTellsNothing) {
+  EXPECT_EQ(prologueBytesOf(folder_.path()), std::nullopt);
+  EXPECT_EQ(prologueBytesOf(folder_.path() / "missing"), std::nullopt);
+}
+
+TEST_F(PrologueBytes, AMissingEntryTellsNothing) {
+  EXPECT_EQ(of("CUPSFileFooter", "@PJL\n"), std::nullopt);
+}
+
+TEST_F(PrologueBytes, AnEmptyTextIsNoPrologue) {
+  EXPECT_EQ(of("CUPSFileHeader", ""), 0U);
+}
+
+TEST(JobInput, AFileIsReadAndItsSizeIsKnown) {
+  test::TemporaryFolder folder;
+  JobInput input(folder.write("job", "GDIJ\n").string());
+  std::ostringstream errors;
+  EXPECT_TRUE(input.isOpen(errors));
+  EXPECT_EQ(errors.str(), "");
+  EXPECT_EQ(input.size(), 5U);
+  std::ostringstream text;
+  text << input.stream().rdbuf();
+  EXPECT_EQ(text.str(), "GDIJ\n");
+}
+
+TEST(JobInput, AMissingFileIsTold) {
+  test::TemporaryFolder folder;
+  const std::string name = (folder.path() / "job").string();
+  std::ostringstream errors;
+  EXPECT_FALSE(JobInput(name).isOpen(errors));
+  EXPECT_EQ(errors.str(), "gdiview: " + name + ": No such file or directory\n");
+}
+
+TEST(JobInput, ADirectoryIsTold) {
+  test::TemporaryFolder folder;
+  const std::string name = folder.path().string();
+  std::ostringstream errors;
+  EXPECT_FALSE(JobInput(name).isOpen(errors));
+  EXPECT_EQ(errors.str(), "gdiview: " + name + ": Is a directory\n");
+}
+
+TEST(JobInput, ADeviceHasNoSize) {
+  JobInput input("/dev/null");
+  std::ostringstream errors;
+  EXPECT_TRUE(input.isOpen(errors));
+  EXPECT_EQ(input.size(), std::nullopt);
+}
+
+// What is said of an input that holds these bytes.
+std::string lineOn(const std::string& bytes) {
+  std::istringstream stream(bytes);
+  reader::JobWalk walk(stream, [](const reader::Finding&) {});
+  reader::Prologue start;
+  while (const std::optional<reader::JobStep> next = walk.next()) {
+    if (const auto* prologue = std::get_if<reader::Prologue>(&next->step.record)) {
+      start = *prologue;
+    }
+  }
+  std::ostringstream errors;
+  const bool job = isJobStream(walk, start, "JOB", errors);
+  EXPECT_EQ(job, errors.str().empty());
+  return errors.str();
+}
+
+TEST(JobInput, WhatAFileBeginsLikeIsTold) {
+  const std::string start = "gdiview: JOB: this is no job stream: it begins like ";
+  EXPECT_EQ(lineOn("\x89PNG\r\n\x1a\n"), start + "a PNG picture\n");
+  EXPECT_EQ(lineOn("%PDF-1.7\n"), start + "a PDF document\n");
+  EXPECT_EQ(lineOn("%!PS\n"), start + "a PostScript document\n");
+  EXPECT_EQ(lineOn("RaS3 and more"), start + "a CUPS raster\n");
+  EXPECT_EQ(lineOn("3SaR and more"), start + "a CUPS raster\n");
+  EXPECT_EQ(lineOn("2SaR"), start + "a CUPS raster\n");
+  EXPECT_EQ(lineOn("\x1f\x8b\x08"), start + "a gzip file\n");
+  EXPECT_EQ(lineOn("PK\x03\x04"), start + "a ZIP file\n");
+}
+
+TEST(JobInput, AnythingElseHoldsNoRecord) {
+  EXPECT_EQ(lineOn("%"), "gdiview: JOB: this is no job stream: it holds no record of one\n");
+  EXPECT_EQ(lineOn("a letter to my aunt"),
+            "gdiview: JOB: this is no job stream: it holds no record of one\n");
+}
+
+TEST(JobInput, AnEmptyInputIsTold) {
+  EXPECT_EQ(lineOn(""), "gdiview: JOB: the input is empty\n");
+}
+
+TEST(JobInput, OfAJobStreamNothingIsSaid) {
+  const jobtest::JobBuilder job = twoPages();
+  EXPECT_EQ(lineOn(std::string(job.bytes().begin(), job.bytes().end())), "");
+}
+
+}  // namespace
+}  // namespace gdi::gdiview
