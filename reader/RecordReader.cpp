@@ -7,20 +7,12 @@
 #include <cstdio>
 #include <utility>
 
-#include "codec/pc4sc4_format.h"
 #include "reader/counted.h"
 #include "reader/record_rules.h"
 
 namespace gdi::reader {
 
 namespace {
-
-// Band data is read in pieces of this size, so that a lying length costs no memory.
-constexpr std::size_t kPieceBytes = 65536;
-
-// How often a band whose length lies is searched for the records inside it: each search costs up to
-// the longest band.
-constexpr unsigned kMostShortenedBands = 64;
 
 std::string hexadecimal(std::span<const std::uint8_t> bytes) {
   std::string text;
@@ -31,10 +23,6 @@ std::string hexadecimal(std::span<const std::uint8_t> bytes) {
     text += digits.data();
   }
   return text;
-}
-
-bool isFinalEndMark(std::span<const std::uint8_t> rest) {
-  return rest.size() == sizeof(Tag) && kindOfTag(rest) == RecordKind::kEndOfJob;
 }
 
 // What else is told of the length is true of a length that lies.
@@ -120,16 +108,13 @@ RecordStep RecordReader::readRecord(RecordKind kind) {
   foundRecord_ = true;
   lengthWasUnknown_ = false;
   if (step.bytes < bytes.size()) {
-    const std::string text = "the stream ends after " + std::to_string(step.bytes) + " of the " +
-                             nameOf(kind) + "'s " + std::to_string(bytes.size()) + " bytes";
-    return breakOff(std::move(step), text);
+    breakOff(step, "the stream ends after " + std::to_string(step.bytes) + " of the " +
+                       nameOf(kind) + "'s " + std::to_string(bytes.size()) + " bytes");
+    return step;
   }
   step.header.assign(bytes.begin(), bytes.end());
   step.flaws = flawsOfRecord(kind, bytes);
   checkOrder(kind, step);
-  if (std::exchange(gapWasTold_, false)) {
-    std::erase_if(step.flaws, [](const Flaw& flaw) { return flaw.rule == Rule::kRecordOrder; });
-  }
   switch (kind) {
     case RecordKind::kJob:
       step.record = parseJobRecord(bytes);
@@ -140,17 +125,9 @@ RecordStep RecordReader::readRecord(RecordKind kind) {
     case RecordKind::kPage:
       step.record = parsePageRecord(bytes);
       break;
-    case RecordKind::kBand: {
-      Band band;
-      band.record = parseBandRecord(bytes);
-      readBandData(band, step);
-      if (finished_) {
-        step.record = BrokenOff{};
-      } else {
-        step.record = std::move(band);
-      }
+    case RecordKind::kBand:
+      readBand(bytes, step);
       break;
-    }
     case RecordKind::kEndOfJob:
       step.record = EndOfJob{};
       ended_ = true;
@@ -160,128 +137,41 @@ RecordStep RecordReader::readRecord(RecordKind kind) {
 }
 
 void RecordReader::checkOrder(RecordKind kind, RecordStep& step) {
-  const auto tell = [&step](const char* text) {
-    step.flaws.insert(step.flaws.begin(), {0, Rule::kRecordOrder, text});
-  };
-  const Expecting expected = expecting_;
-  switch (kind) {
-    case RecordKind::kJob:
-      if (expected != Expecting::kJob) {
-        tell("the job record (GDIJ) does not come first, or once more");
-      }
-      expecting_ = Expecting::kHost;
-      return;
-    case RecordKind::kHost:
-      if (expected != Expecting::kHost) {
-        tell("the host record (GJET) does not follow the job record");
-      }
-      expecting_ = std::max(expected, Expecting::kPageOrEnd);
-      return;
-    case RecordKind::kPage:
-      expecting_ = Expecting::kBandPageOrEnd;
-      break;
-    case RecordKind::kBand:
-      if (expected == Expecting::kPageOrEnd) {
-        tell("a band record (GDIB) comes ahead of the first page record");
-      }
-      expecting_ = Expecting::kBandPageOrEnd;
-      break;
-    case RecordKind::kEndOfJob:
-      expecting_ = Expecting::kJob;
-      break;
-  }
-  if (expected == Expecting::kHost) {
-    tell("the host record (GJET) is missing");
-  } else if (expected == Expecting::kJob && kind != RecordKind::kEndOfJob) {
-    tell("the job record (GDIJ) is missing");
+  const std::optional<std::string_view> misplaced = order_.take(kind);
+  const bool gapWasTold = std::exchange(gapWasTold_, false);
+  if (misplaced && !gapWasTold) {
+    step.flaws.insert(step.flaws.begin(), {0, Rule::kRecordOrder, std::string(*misplaced)});
   }
 }
 
-void RecordReader::readBandData(Band& band, RecordStep& step) {
+void RecordReader::readBand(std::span<const std::uint8_t> bytes, RecordStep& step) {
+  Band band;
+  band.record = parseBandRecord(bytes);
   band.ink = band.record.ink();
-  std::size_t left = band.ink ? band.record.lengths[indexOf(*band.ink)] : 0;
+  const std::uint32_t length = band.ink ? band.record.lengths[indexOf(*band.ink)] : 0;
   lengthWasUnknown_ =
-      left > longestBandBytes(kBandHeight) ||
+      length > longestBandBytes(kBandHeight) ||
       std::ranges::any_of(step.flaws, [](const Flaw& f) { return f.rule == Rule::kBandPlane; });
   if (lengthWasUnknown_) {
+    step.record = std::move(band);
     return;
   }
-  while (left > 0) {
-    const std::size_t have = band.data.size();
-    const std::size_t piece = std::min(left, kPieceBytes);
-    band.data.resize(have + piece);
-    const std::size_t got = source_.read(std::span(band.data).subspan(have));
-    band.data.resize(have + got);
-    left -= got;
-    if (got < piece) {
-      break;
-    }
+  BandBytes read = bandData_.read(length);
+  step.bytes += read.data.size();
+  if (read.brokenOff) {
+    breakOff(step, "the stream ends after " + std::to_string(read.data.size()) + " of the " +
+                       nameOf(*band.ink) + " band's " + counted(length, "byte"));
+    return;
   }
-  step.bytes += band.data.size();
-  const std::span<const std::uint8_t> behind = source_.peek(sizeof(Tag));
-  const bool leadsNowhere = behind.size() < sizeof(Tag) || !kindOfTag(behind);
-  if (left > 0 || (leadsNowhere && !fillToNextRecord(band, step))) {
-    cutToNextRecord(band, step);
+  if (!read.lengthLie.empty()) {
+    tellLength(step, *band.ink, std::move(read.lengthLie));
   }
-}
-
-// A length that is no multiple of 16 may lack the few bytes up to one. False when no record begins
-// there.
-bool RecordReader::fillToNextRecord(Band& band, RecordStep& step) {
-  const std::size_t have = band.data.size();
-  const std::size_t missing =
-      (pc4sc4::kBandAlignment - have % pc4sc4::kBandAlignment) % pc4sc4::kBandAlignment;
-  const std::span<const std::uint8_t> ahead = source_.peek(missing + kRecordStartBytes);
-  if (missing == 0 || ahead.size() < missing ||
-      !(beginsRecord(ahead.subspan(missing)) || isFinalEndMark(ahead.subspan(missing)))) {
-    return false;
-  }
-  band.data.resize(have + missing);
-  step.bytes += source_.read(std::span(band.data).last(missing));
-  tellLength(step, *band.ink,
-             "the band has " + std::to_string(have) +
-                 " bytes, and yet the next record begins after " + std::to_string(have + missing));
-  return true;
-}
-
-// The band's length leads nowhere. If a record begins inside its data, they end there.
-void RecordReader::cutToNextRecord(Band& band, RecordStep& step) {
-  const std::uint32_t told = band.record.lengths[indexOf(*band.ink)];
-  const std::size_t have = band.data.size();
-  if (const std::optional<std::size_t> start = recordInside(band.data)) {
-    ++shortenedBands_;
-    source_.giveBack(std::span(band.data).subspan(*start));
-    band.data.resize(*start);
-    step.bytes -= have - *start;
-    tellLength(step, *band.ink,
-               "the band has " + std::to_string(told) + " bytes, and yet a record begins after " +
-                   counted(*start, "byte"));
-  } else if (have < told) {
-    step = breakOff(std::move(step), "the stream ends after " + std::to_string(have) + " of the " +
-                                         nameOf(*band.ink) + " band's " + counted(told, "byte"));
-  }
-}
-
-// Where in a band's data a record begins, an end-of-job mark that ends the input included.
-std::optional<std::size_t> RecordReader::recordInside(std::vector<std::uint8_t>& data) {
-  if (shortenedBands_ >= kMostShortenedBands) {
-    return std::nullopt;
-  }
-  const std::size_t have = data.size();
-  const std::span<const std::uint8_t> behind = source_.peek(kRecordStartBytes);
-  const bool inputEnds = behind.size() < kRecordStartBytes;
-  data.insert(data.end(), behind.begin(), behind.end());
-  std::optional<std::size_t> start = findRecordStart(data);
-  if (!start && inputEnds && data.size() >= sizeof(Tag) &&
-      isFinalEndMark(std::span(data).last(sizeof(Tag)))) {
-    start = data.size() - sizeof(Tag);
-  }
-  data.resize(have);
-  return start && *start < have ? start : std::nullopt;
+  band.data = std::move(read.data);
+  step.record = std::move(band);
 }
 
 // The input's end is the stream's only if it could be read.
-RecordStep RecordReader::breakOff(RecordStep&& step, std::string text) {
+void RecordReader::breakOff(RecordStep& step, std::string text) {
   finished_ = true;
   step.record = BrokenOff{};
   if (source_.failed()) {
@@ -289,7 +179,6 @@ RecordStep RecordReader::breakOff(RecordStep&& step, std::string text) {
   } else {
     step.flaws.push_back({step.bytes, Rule::kTruncated, std::move(text)});
   }
-  return std::move(step);
 }
 
 RecordStep RecordReader::readGap() {

@@ -14,7 +14,9 @@
 #include <variant>
 #include <vector>
 
+#include "reader/BandDataReader.h"
 #include "reader/ByteSource.h"
+#include "reader/record_order.h"
 #include "reader/record_search.h"
 #include "reader/records.h"
 #include "reader/rules.h"
@@ -59,6 +61,8 @@ class RecordReader {
   // for its end.
   explicit RecordReader(std::istream& input, std::optional<std::uint64_t> prologueBytes = {})
       : source_(input), expectedPrologue_(prologueBytes) {}
+  RecordReader(const RecordReader&) = delete;
+  RecordReader& operator=(const RecordReader&) = delete;
 
   // The next step; nothing behind the last one. The first is the prologue.
   std::optional<RecordStep> next();
@@ -71,23 +75,19 @@ class RecordReader {
   [[nodiscard]] std::uint64_t offset() const { return source_.offset(); }
 
  private:
-  enum class Expecting : std::uint8_t { kJob, kHost, kPageOrEnd, kBandPageOrEnd };
-
   RecordStep readPrologue();
   bool prologueIsAsExpected(Prologue& prologue);
   RecordStep readRecord(RecordKind kind);
   void checkOrder(RecordKind kind, RecordStep& step);
-  void readBandData(Band& band, RecordStep& step);
-  bool fillToNextRecord(Band& band, RecordStep& step);
-  void cutToNextRecord(Band& band, RecordStep& step);
-  std::optional<std::size_t> recordInside(std::vector<std::uint8_t>& data);
+  void readBand(std::span<const std::uint8_t> bytes, RecordStep& step);
   RecordStep readGap();
-  RecordStep breakOff(RecordStep&& step, std::string text);
+  void breakOff(RecordStep& step, std::string text);
   std::optional<RecordStep> readEnd();
 
   ByteSource source_;
+  BandDataReader bandData_{source_};
+  RecordOrder order_;
   std::optional<std::uint64_t> expectedPrologue_;
-  Expecting expecting_ = Expecting::kJob;
   bool started_ = false;
   bool finished_ = false;
   bool foundRecord_ = false;
@@ -95,7 +95,6 @@ class RecordReader {
   bool toldWhatFollows_ = false;   // that something follows the end-of-job mark
   bool lengthWasUnknown_ = false;  // of the band just read: bytes of it may follow
   bool gapWasTold_ = false;        // just now: a record that is missing may be in the gap
-  unsigned shortenedBands_ = 0;
   std::array<std::uint8_t, host_record::kLength> record_{};  // the longest record
 };
 
