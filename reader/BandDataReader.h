@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "reader/ByteSource.h"
+#include "reader/records.h"
 
 namespace gdi::reader {
 
@@ -23,24 +24,34 @@ struct BandBytes {
   bool brokenOff = false;  // the stream ends inside the data
 };
 
+// What is said of a length that is `told` bytes, when `record` ("a record") begins after `bytes`.
+std::string lengthLie(std::size_t told, const char* record, std::size_t bytes);
+
 class BandDataReader {
  public:
   // `source` stays the caller's, must outlive the reader, and stands behind a band record whenever
   // a band is read.
   explicit BandDataReader(ByteSource& source) : source_(source) {}
 
-  // length: bytes, as the band record tells. Memory is taken as the data come.
-  BandBytes read(std::size_t length);
+  // record: what `source` stands behind. ink: whose length it tells; nothing for a band without
+  // data. Memory is taken as the data come.
+  BandBytes read(const BandRecord& record, std::optional<Ink> ink);
+
+  // Whether one more band may be looked at for another end than its length tells: each look may
+  // cost the longest band, and so there are not many in a stream.
+  bool takeSearch();
 
  private:
   std::vector<std::uint8_t> readUpTo(std::size_t length);
   bool standsAtRecord();
-  bool fillToNextRecord(BandBytes& band);
-  void cutToNextRecord(BandBytes& band, std::size_t length);
+  bool growToNextRecord(BandBytes& band, const BandRecord& record);
+  bool grow(BandBytes& band, std::size_t missing);
+  bool mayStandAtDamagedRecord(const BandRecord& record);
+  bool cutToNextRecord(BandBytes& band, std::size_t length);
   std::optional<std::size_t> recordInside(std::vector<std::uint8_t>& data);
 
   ByteSource& source_;
-  unsigned shortenedBands_ = 0;
+  unsigned searches_ = 0;
 };
 
 }  // namespace gdi::reader

@@ -5,6 +5,8 @@
 
 #include <utility>
 
+#include "reader/swallowed_record.h"
+
 namespace gdi::reader {
 
 namespace {
@@ -21,14 +23,14 @@ bool endsPage(const RecordStep& step) {
 
 const char* nameOf(const RecordStep& step) {
   struct Names {
-    const char* operator()(const Prologue&) const { return "prologue"; }
-    const char* operator()(const JobRecord&) const { return "job record"; }
-    const char* operator()(const HostRecord&) const { return "host record"; }
-    const char* operator()(const PageRecord&) const { return "page record"; }
-    const char* operator()(const Band&) const { return "band record"; }
-    const char* operator()(const EndOfJob&) const { return "end-of-job mark"; }
-    const char* operator()(const Gap&) const { return "no record"; }
-    const char* operator()(const BrokenOff&) const { return "end of the stream"; }
+    const char* operator()(const Prologue& /*record*/) const { return "prologue"; }
+    const char* operator()(const JobRecord& /*record*/) const { return "job record"; }
+    const char* operator()(const HostRecord& /*record*/) const { return "host record"; }
+    const char* operator()(const PageRecord& /*record*/) const { return "page record"; }
+    const char* operator()(const Band& /*record*/) const { return "band record"; }
+    const char* operator()(const EndOfJob& /*record*/) const { return "end-of-job mark"; }
+    const char* operator()(const Gap& /*record*/) const { return "no record"; }
+    const char* operator()(const BrokenOff& /*record*/) const { return "end of the stream"; }
   };
   return std::visit(Names{}, step.record);
 }
@@ -46,11 +48,20 @@ std::optional<JobStep> JobWalk::next() {
   }
   JobStep job;
   job.step = std::move(*step);
+  if (const auto* swallowing = std::get_if<Band>(&job.step.record);
+      swallowing != nullptr && page_) {
+    if (const auto bytes = swallowedRecord(*swallowing, page_->summary().rowBits)) {
+      records_.cutBand(job.step, *bytes);
+    }
+  }
   totals_.bytes = job.step.offset + job.step.bytes;
   if (page_ && endsPage(job.step)) {
     endPage(job);
   }
   const auto* band = std::get_if<Band>(&job.step.record);
+  if (page_ && missesPageRecord(job)) {
+    endPage(job);
+  }
   totals_.compressedBytes += band != nullptr ? band->data.size() : 0;
   if (band != nullptr && page_) {
     const BandVerdict verdict = page_->addBand(*band, job.step.offset, job.step.flaws);
@@ -72,15 +83,32 @@ std::optional<JobStep> JobWalk::next() {
     }
     pagesOfJob_ = 0;
     nextNumber_ = 0;
+    numberUnknown_ = false;
     if (totals_.job.empty()) {
       totals_.job = job.step.header;
     }
   } else if (std::holds_alternative<HostRecord>(job.step.record) && totals_.host.empty()) {
     totals_.host = job.step.header;
   } else if (std::holds_alternative<Gap>(job.step.record) && page_ && !job.step.flaws.empty()) {
-    page_->addGap();
+    page_->addGap(job.step.bytes);
   }
   return job;
+}
+
+// What comes behind a page's last band, and is neither a page nor the job's end, is of a page whose
+// record is damaged or missing.
+bool JobWalk::missesPageRecord(JobStep& job) {
+  const bool damaged = std::holds_alternative<Gap>(job.step.record) && page_->closed() &&
+                       job.step.bytes >= page_record::kLength;
+  const bool missing = std::holds_alternative<Band>(job.step.record) && page_->complete();
+  if (missing) {
+    job.step.flaws.insert(
+        job.step.flaws.begin(),
+        {0, Rule::kRecordOrder,
+         "a band record (GDIB) follows a page's last band: no page record (GDIP)"});
+  }
+  numberUnknown_ = numberUnknown_ || damaged || missing;
+  return damaged || missing;
 }
 
 // A stream that breaks off has told why its page is short. A page whose last band came is not.
@@ -103,7 +131,7 @@ void JobWalk::startPage(const PageRecord& record, JobStep& job) {
 }
 
 void JobWalk::checkNumber(const PageRecord& record, std::uint64_t offset) {
-  const std::uint16_t expected = nextNumber_;
+  const std::uint16_t expected = std::exchange(numberUnknown_, false) ? record.number : nextNumber_;
   nextNumber_ = static_cast<std::uint16_t>(record.number + 1);
   numberLeftOut_ =
       pagesOfJob_ >= kFirstFillerPage && record.number == static_cast<std::uint16_t>(expected + 1);
@@ -117,7 +145,7 @@ void JobWalk::checkNumber(const PageRecord& record, std::uint64_t offset) {
 
 // docs/quirks.md, "The filler page's number"
 void JobWalk::checkFiller(const PageSummary& page, bool last) {
-  const bool mayBeBlank = page.flaggedBlank || !page.inked;
+  const bool mayBeBlank = page.flaggedBlank || !page.inked || page.stepsLeftOut;
   if (!last || !mayBeBlank) {
     tell({page.offset + page_record::kPageNumberOffset, Rule::kPageNumber,
           "page " + std::to_string(page.ordinal),

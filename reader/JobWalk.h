@@ -53,6 +53,7 @@ class JobWalk {
   [[nodiscard]] std::uint64_t offset() const { return records_.offset(); }
 
  private:
+  bool missesPageRecord(JobStep& job);
   void endPage(JobStep& job);
   void startPage(const PageRecord& record, JobStep& job);
   void checkNumber(const PageRecord& record, std::uint64_t offset);
@@ -68,6 +69,7 @@ class JobWalk {
   std::optional<PageAudit> page_;
   std::uint32_t pagesOfJob_ = 0;  // totals_ may count those of several jobs
   std::uint16_t nextNumber_ = 0;
+  bool numberUnknown_ = false;  // of the next page: the record of one ahead of it is not there
   bool numberLeftOut_ = false;  // by the page that is under way
 };
 

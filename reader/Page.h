@@ -52,6 +52,7 @@ struct PageSummary {
   bool flaggedBlank = false;  // the last band record says that the page is blank
   bool inked = false;         // a pixel is not blank
   bool brokenOff = false;     // the stream ended inside the page
+  bool stepsLeftOut = false;  // it ended as a page of 256 k + 1 rows does
   std::array<PlaneSummary, kInkCount> planeSummaries;  // indexed by indexOf(ink)
 
   [[nodiscard]] bool isColor() const { return record.channels > 1; }

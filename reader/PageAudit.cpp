@@ -16,17 +16,18 @@ PageAudit::PageAudit(const PageRecord& record, std::uint32_t ordinal, std::uint6
     : sink_(std::move(tell)),
       pageName_("page " + std::to_string(ordinal)),
       recordName_(pageName_),
-      planesKnown_(record.channels == 1 || record.channels == kInkCount),
+      rowLength_(record, bitsPerPixel),
       rowsTold_(rowsToldBy(record)),
-      order_(bandsFor(rowsTold_.rows)) {
+      order_(bandsFor(rowsTold_.rows)),
+      lastFlag_(sink_),
+      otherRowBits_(sink_),
+      otherPlanes_(sink_) {
   summary_.record = record;
   summary_.ordinal = ordinal;
   summary_.offset = offset;
   summary_.bitsPerPixel = bitsPerPixel.value_or(1);
-  end_.widthUnknown = !bitsPerPixel;
-  if (record.rowBits % kRowBitsMultiple == 0) {
-    summary_.rowBits = likelyRowBits(record, summary_.bitsPerPixel);
-  }
+  summary_.rowBits = rowLength_.bits();
+  end_.planesKnown = record.channels == 1 || record.channels == kInkCount;
 }
 
 BandVerdict PageAudit::addBand(const Band& band, std::uint64_t offset,
@@ -38,7 +39,7 @@ BandVerdict PageAudit::addBand(const Band& band, std::uint64_t offset,
     return std::ranges::any_of(flaws, [rule](const Flaw& flaw) { return flaw.rule == rule; });
   };
   manyPlanes_ = broken(Rule::kBandPlane);
-  end_.bandsUnknown = end_.bandsUnknown || broken(Rule::kBandRows);
+  end_.strayRows += broken(Rule::kBandRows) ? kBandHeight : 0;
   end_.blanknessUnknown = end_.blanknessUnknown || broken(Rule::kBlankFlag);
   const std::optional<Ink> ink = inkOf(band);
   const bool onPage = ink && hasPlane(*ink);
@@ -52,15 +53,29 @@ BandVerdict PageAudit::addBand(const Band& band, std::uint64_t offset,
     checkPlace(band, *place);
     verdict.sound = checkData(band, *place);
   } else {
-    addMisplacedBand(ink);
+    addMisplacedBand(band, ink);
   }
   summary_.lostBands += verdict.sound ? 0 : 1;
   recordName_ = pageName_;
   return verdict;
 }
 
+// A band is a record and at least 16 bytes.
+void PageAudit::addGap(std::uint64_t bytes) {
+  const std::uint64_t bands = bytes / (band_record::kLength + pc4sc4::kBandAlignment);
+  end_.strayRows += bands * kBandHeight;
+  end_.lastBandUnknown = end_.lastBandUnknown || bands > 0;
+}
+
+bool PageAudit::complete() const {
+  return closed() && end_.strayRows == 0 && rowsTold_.consistent &&
+         std::ranges::all_of(summary_.inks(), [this](Ink ink) {
+           return summary_.summaryOf(ink).rows == rowsTold_.rows;
+         });
+}
+
 bool PageAudit::hasPlane(Ink ink) const {
-  return !planesKnown_ || std::ranges::count(summary_.inks(), ink) != 0;
+  return !end_.planesKnown || std::ranges::count(summary_.inks(), ink) != 0;
 }
 
 std::optional<Ink> PageAudit::inkOf(const Band& band) const {
@@ -75,7 +90,7 @@ std::optional<Ink> PageAudit::inkOf(const Band& band) const {
 BandPlace PageAudit::placeOf(Ink ink, const Band& band) {
   PlaneSummary& plane = summary_.planeSummaries[indexOf(ink)];
   const BandPlace place{ink, plane.bands++};
-  plane.rows += std::min<std::uint32_t>(band.record.rows, kBandHeight);
+  plane.rows += band.record.rows <= kBandHeight ? band.record.rows : 0;
   plane.compressedBytes += band.data.size();
   const auto bytes = static_cast<std::uint32_t>(band.data.size());
   if (bytes > summary_.largestBandBytes) {
@@ -85,29 +100,47 @@ BandPlace PageAudit::placeOf(Ink ink, const Band& band) {
   return place;
 }
 
-void PageAudit::addMisplacedBand(std::optional<Ink> ink) {
+// Whatever it is, it may be the band that some plane lacks.
+void PageAudit::addMisplacedBand(const Band& band, std::optional<Ink> ink) {
   if (ink) {
-    tell(bandOffset_ + lengthOffsetOf(*ink), Rule::kBandPlane,
-         std::string("a ") + nameOf(*ink) + " band on a page of black alone");
-  } else if (end_.closed && !manyPlanes_) {
+    ++foreignBands_[indexOf(*ink)];
+    otherPlanes_.add({bandOffset_ + lengthOffsetOf(*ink), Rule::kBandPlane, recordName_,
+                      std::string("a ") + nameOf(*ink) + " band on a page of black alone"});
+    end_.lastFlagged = end_.lastFlagged || band.record.last();
+  } else if (!manyPlanes_ && lastFlag_.closed()) {
     tell(bandOffset_, Rule::kLastFlag, "the band follows the page's last band");
   } else if (!manyPlanes_) {
     tell(bandOffset_, Rule::kNotCompressed,
          "the band was not compressed, and its plane cannot be told");
   }
-  end_.bandsUnknown = end_.bandsUnknown || ink || manyPlanes_;
+  if (ink || manyPlanes_) {
+    end_.strayRows += kBandHeight;
+    end_.lastBandUnknown = end_.lastBandUnknown || manyPlanes_;
+  }
 }
 
 void PageAudit::checkPlace(const Band& band, BandPlace place) {
-  const BandRecord& record = band.record;
-  checkHeight(record, place);
+  checkHeight(band.record, place);
   checkOrder(place);
-  if (summary_.rowBits != 0 && record.rowBits != summary_.record.rowBits) {
-    tell(bandOffset_ + band_record::kRowBitsOffset, Rule::kBandRowBits,
-         "the band says " + counted(record.rowBits, "bit") + " a row, its page record " +
-             std::to_string(summary_.record.rowBits));
+  checkRowBits(band.record);
+  checkFlags(band.record, place);
+}
+
+// Where all bands contradict the page record alike, it is the page record that is wrong.
+void PageAudit::checkRowBits(const BandRecord& record) {
+  rowLength_.hear(record);
+  const std::uint16_t told = summary_.record.rowBits;
+  if (record.rowBits == told || told % kRowBitsMultiple != 0) {
+    otherRowBits_.release();
+    return;
   }
-  checkFlags(record, place);
+  if (otherRowBits_.count() > 0 && record.rowBits != otherRowBitsTold_) {
+    otherRowBits_.release();
+  }
+  otherRowBitsTold_ = record.rowBits;
+  otherRowBits_.add({bandOffset_ + band_record::kRowBitsOffset, Rule::kBandRowBits, recordName_,
+                     "the band says " + counted(record.rowBits, "bit") +
+                         " a row, its page record " + std::to_string(told)});
 }
 
 void PageAudit::checkHeight(const BandRecord& record, BandPlace place) {
@@ -126,7 +159,7 @@ void PageAudit::checkHeight(const BandRecord& record, BandPlace place) {
 // The order depends on the page's rows: nobody knows it where the page record contradicts itself.
 void PageAudit::checkOrder(BandPlace place) {
   const std::optional<Ink> expected = order_.expected();
-  if (!summary_.isColor() || order_.take(place.ink) || !planesKnown_ || !rowsTold_.consistent) {
+  if (!summary_.isColor() || order_.take(place.ink) || !end_.planesKnown || !rowsTold_.consistent) {
     return;
   }
   tell(bandOffset_, Rule::kBandOrder,
@@ -141,17 +174,13 @@ void PageAudit::checkFlags(const BandRecord& record, BandPlace place) {
          record.first() ? "the flag of a plane's first band is set"
                         : "the flag of a plane's first band is missing");
   }
-  const bool mayBeLast = !planesKnown_ || place.ink == summary_.lastInk();
-  lastFlagTold_ = true;
-  if (std::exchange(end_.closed, false)) {
-    tell(bandOffset_, Rule::kLastFlag, "the band follows the page's last band");
-  } else if (record.last() && !mayBeLast) {
-    tell(offset, Rule::kLastFlag,
-         std::string("the last band of such a page is ") + nameOf(summary_.lastInk()));
-  } else {
-    lastFlagTold_ = false;
+  LastBandFlag::Seen seen{bandOffset_, offset, recordName_, record.last()};
+  if (end_.planesKnown && place.ink != summary_.lastInk()) {
+    seen.notItsPlane = summary_.lastInk();
   }
-  end_.closed = record.last() && mayBeLast;
+  seen.early = end_.planesKnown && rowsTold_.consistent &&
+               std::uint64_t{place.index} + 1 < bandsFor(rowsTold_.rows);
+  lastFlag_.take(seen);
   end_.trailerTold = false;
   summary_.flaggedBlank = record.last() && record.pageBlank;
 }
@@ -163,14 +192,23 @@ bool PageAudit::checkData(const Band& band, BandPlace place) {
     return false;
   }
   if (band.data.empty() || record.rows == 0 || record.rows > kBandHeight ||
-      record.rowBits != summary_.record.rowBits || summary_.rowBits == 0) {
+      rowLength_.bits() == 0) {
     return false;
   }
-  const BandDataReport report = examine(band);
+  const RowLength::Examined examined = rowLength_.examine(band);
+  const BandDataReport& report = examined.report;
+  summary_.rowBits = rowLength_.bits();
+  if (examined.longer) {
+    tellOfPage(page_record::kRowBitsOffset, Rule::kWideRows,
+               "the page's rows are of " + std::to_string(summary_.rowBits) +
+                   " bits, which its paper's width does not suggest");
+  }
   for (const Flaw& flaw : report.flaws) {
-    const bool ofTheEnd = flaw.rule == Rule::kTrailer || flaw.rule == Rule::kBandEnd;
-    if (!ofTheEnd || !lastFlagTold_) {
-      tell(bandOffset_ + band_record::kLength + flaw.offset, flaw.rule, flaw.text);
+    const std::uint64_t offset = bandOffset_ + band_record::kLength + flaw.offset;
+    if (flaw.rule == Rule::kTrailer || flaw.rule == Rule::kBandEnd) {
+      lastFlag_.tellTrailer({offset, flaw.rule, recordName_, flaw.text});
+    } else if (flaw.rule != Rule::kBandData || !examined.ofOwnWidth) {
+      tell(offset, flaw.rule, flaw.text);
     }
     end_.trailerTold =
         end_.trailerTold || (flaw.rule == Rule::kBandEnd && place.ink == summary_.lastInk() &&
@@ -180,38 +218,38 @@ bool PageAudit::checkData(const Band& band, BandPlace place) {
   return report.complete;
 }
 
-// Until there is ink, any length will do for the bands that have come; and what does not decode to
-// rows of some length does not decode to shorter ones either.
-BandDataReport PageAudit::examine(const Band& band) {
-  const auto examineAs = [&band](std::uint32_t rowBits) {
-    return examineBandData(band.data, band.record.rows, rowBits / 8, band.record.last());
-  };
-  BandDataReport report = examineAs(summary_.rowBits);
-  if (report.complete || summary_.inked) {
-    return report;
-  }
-  for (auto bits = nextLongerRow(summary_.rowBits); bits; bits = nextLongerRow(*bits)) {
-    BandDataReport longer = examineAs(*bits);
-    if (longer.complete) {
-      tellOfPage(page_record::kRowBitsOffset, Rule::kWideRows,
-                 "the page's rows are of " + std::to_string(*bits) +
-                     " bits, which its paper's width does not suggest");
-      summary_.rowBits = *bits;
-      end_.widthUnknown = true;
-      return longer;
-    }
-  }
-  return report;
-}
-
 PageSummary PageAudit::finish(bool brokenOff) {
   summary_.brokenOff = brokenOff;
-  if (!brokenOff && planesKnown_) {
-    for (const Flaw& flaw : flawsOfPage(summary_, end_)) {
-      tellOfPage(flaw.offset, flaw.rule, flaw.text);
-    }
+  tellSharedFaults();
+  lastFlag_.finish();
+  end_.lastFlagged = end_.lastFlagged || lastFlag_.closed();
+  end_.widthUnknown = rowLength_.widthUnknown();
+  for (const Flaw& flaw :
+       brokenOff ? flawsOfBrokenPage(summary_.record) : flawsOfPage(summary_, end_)) {
+    tellOfPage(flaw.offset, flaw.rule, flaw.text);
+    summary_.stepsLeftOut = summary_.stepsLeftOut || flaw.rule == Rule::kStepsLeftOut;
   }
   return summary_;
+}
+
+// What all bands say differs from the page record is told of the page record.
+void PageAudit::tellSharedFaults() {
+  if (otherRowBits_.count() > 1 && otherRowBits_.count() == summary_.bandCount) {
+    otherRowBits_.replaceBy({summary_.offset + page_record::kRowBitsOffset, Rule::kBandRowBits,
+                             pageName_,
+                             "the page record says " + counted(summary_.record.rowBits, "bit") +
+                                 " a row, all its bands " + std::to_string(otherRowBitsTold_)});
+  }
+  otherRowBits_.release();
+  const std::uint32_t black = summary_.summaryOf(Ink::kBlack).bands;
+  const bool isColorPage = std::ranges::all_of(
+      std::array{Ink::kCyan, Ink::kMagenta, Ink::kYellow},
+      [&](Ink ink) { return black > 0 && foreignBands_[indexOf(ink)] == black; });
+  if (isColorPage && otherPlanes_.count() > 0) {
+    otherPlanes_.replaceBy({summary_.offset + page_record::kChannelsOffset, Rule::kBandPlane,
+                            pageName_, "the page is of black alone and has bands of four planes"});
+  }
+  otherPlanes_.release();
 }
 
 void PageAudit::tell(std::uint64_t offset, Rule rule, std::string text) const {

@@ -10,9 +10,11 @@
 #include <span>
 #include <string>
 
+#include "reader/HeldFindings.h"
+#include "reader/LastBandFlag.h"
 #include "reader/Page.h"
 #include "reader/RecordReader.h"
-#include "reader/band_data.h"
+#include "reader/RowLength.h"
 #include "reader/band_order.h"
 #include "reader/page_rules.h"
 #include "reader/rules.h"
@@ -34,15 +36,17 @@ class PageAudit {
   // A band record with its flaws, which stands at `offset`.
   BandVerdict addBand(const Band& band, std::uint64_t offset, std::span<const Flaw> flaws);
 
-  // Bytes that are no record stand among the page's bands: any of these may be in them.
-  void addGap() { end_.bandsUnknown = true; }
+  // So many bytes that are no record stand among the page's bands: any of these may be in them.
+  void addGap(std::uint64_t bytes);
 
   // The page is over. brokenOff: the stream ends inside it, and what is missing is not told.
   PageSummary finish(bool brokenOff);
 
   [[nodiscard]] const PageSummary& summary() const { return summary_; }
   // The page's last band has come.
-  [[nodiscard]] bool closed() const { return end_.closed; }
+  [[nodiscard]] bool closed() const { return lastFlag_.closed() && !lastFlag_.doubtful(); }
+  // All its bands have come, the last one behind the others.
+  [[nodiscard]] bool complete() const;
 
  private:
   [[nodiscard]] bool hasPlane(Ink ink) const;
@@ -50,13 +54,14 @@ class PageAudit {
   [[nodiscard]] std::optional<Ink> inkOf(const Band& band) const;
   // Its place on the page, which counts from now on.
   BandPlace placeOf(Ink ink, const Band& band);
-  void addMisplacedBand(std::optional<Ink> ink);
+  void addMisplacedBand(const Band& band, std::optional<Ink> ink);
   void checkPlace(const Band& band, BandPlace place);
+  void checkRowBits(const BandRecord& record);
   void checkHeight(const BandRecord& record, BandPlace place);
   void checkOrder(BandPlace place);
   void checkFlags(const BandRecord& record, BandPlace place);
   bool checkData(const Band& band, BandPlace place);
-  BandDataReport examine(const Band& band);
+  void tellSharedFaults();
   void tell(std::uint64_t offset, Rule rule, std::string text) const;
   void tellOfPage(std::size_t offset, Rule rule, std::string text) const;
 
@@ -65,11 +70,15 @@ class PageAudit {
   std::string pageName_;
   std::string recordName_;        // of what is being looked at
   std::uint64_t bandOffset_ = 0;  // of the band record that is being looked at
-  bool planesKnown_;              // the page record tells a number of planes that exists
+  RowLength rowLength_;
   RowsTold rowsTold_;
   BandOrder order_;
-  bool manyPlanes_ = false;    // of the band: more than one plane has a length
-  bool lastFlagTold_ = false;  // of the band: its last-band flag is not as it should be
+  bool manyPlanes_ = false;  // of the band: more than one plane has a length
+  LastBandFlag lastFlag_;
+  HeldFindings otherRowBits_;  // bands that all say the same other number of bits a row
+  std::uint16_t otherRowBitsTold_ = 0;
+  HeldFindings otherPlanes_;   // bands of planes that the page does not have
+  BandCounts foreignBands_{};  // of these planes
   // Of each plane the band of less than kBandHeight rows that came last.
   struct ShortBand {
     std::uint64_t offset = 0;

@@ -47,9 +47,14 @@ std::optional<RecordStep> RecordReader::next() {
     return readEnd();
   }
   const bool follows = std::exchange(ended_, false);
-  const std::optional<RecordKind> kind =
-      start.size() < sizeof(Tag) && follows ? std::nullopt : kindOfTagStart(start);
-  RecordStep step = kind ? readRecord(*kind) : readGap();
+  RecordStep step;
+  if (start.size() == sizeof(Tag) && kindOfTag(start)) {
+    step = readRecord(*kindOfTag(start));
+  } else if (start.size() < sizeof(Tag) && beginsTag(start) && !follows) {
+    step = readPartOfTag();
+  } else {
+    step = readGap();
+  }
   if (follows && !std::exchange(toldWhatFollows_, true)) {
     std::erase_if(step.flaws, [](const Flaw& flaw) {
       return flaw.rule == Rule::kTag || flaw.rule == Rule::kRecordOrder;
@@ -98,6 +103,14 @@ bool RecordReader::prologueIsAsExpected(Prologue& prologue) {
     prologue.start = std::move(bytes);
   }
   return prologue.asExpected;
+}
+
+RecordStep RecordReader::readPartOfTag() {
+  RecordStep step;
+  step.offset = source_.offset();
+  step.bytes = source_.read(std::span(record_).first(sizeof(Tag)));
+  breakOff(step, "the stream ends after " + counted(step.bytes, "byte") + " of a record's tag");
+  return step;
 }
 
 RecordStep RecordReader::readRecord(RecordKind kind) {
@@ -156,7 +169,7 @@ void RecordReader::readBand(std::span<const std::uint8_t> bytes, RecordStep& ste
     step.record = std::move(band);
     return;
   }
-  BandBytes read = bandData_.read(length);
+  BandBytes read = bandData_.read(band.record, band.ink);
   step.bytes += read.data.size();
   if (read.brokenOff) {
     breakOff(step, "the stream ends after " + std::to_string(read.data.size()) + " of the " +
@@ -179,6 +192,18 @@ void RecordReader::breakOff(RecordStep& step, std::string text) {
   } else {
     step.flaws.push_back({step.bytes, Rule::kTruncated, std::move(text)});
   }
+}
+
+void RecordReader::cutBand(RecordStep& step, std::size_t bytes) {
+  if (!bandData_.takeSearch()) {
+    return;
+  }
+  Band& band = std::get<Band>(step.record);
+  const std::size_t told = band.data.size();
+  source_.giveBack(std::span(band.data).subspan(bytes));
+  band.data.resize(bytes);
+  step.bytes -= told - bytes;
+  tellLength(step, *band.ink, lengthLie(told, "a record", bytes));
 }
 
 RecordStep RecordReader::readGap() {

@@ -67,6 +67,10 @@ class RecordReader {
   // The next step; nothing behind the last one. The first is the prologue.
   std::optional<RecordStep> next();
 
+  // The band of the step that was just given ends after `bytes` of its data, and a record begins
+  // there: it is given next, and the step's band and flaws are mended. Not for many bands a stream.
+  void cutBand(RecordStep& step, std::size_t bytes);
+
   // A record was found: the input is a job stream, however broken.
   [[nodiscard]] bool foundRecord() const { return foundRecord_; }
   // The input could not be read to its end.
@@ -77,6 +81,7 @@ class RecordReader {
  private:
   RecordStep readPrologue();
   bool prologueIsAsExpected(Prologue& prologue);
+  RecordStep readPartOfTag();
   RecordStep readRecord(RecordKind kind);
   void checkOrder(RecordKind kind, RecordStep& step);
   void readBand(std::span<const std::uint8_t> bytes, RecordStep& step);

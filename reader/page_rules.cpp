@@ -22,6 +22,12 @@ std::uint16_t bandCountFor(std::uint64_t rows) {
   return static_cast<std::uint16_t>((rows + kBandHeight + 1) / kBandHeight);
 }
 
+Flaw wrongBandCount(const PageRecord& record, std::uint16_t bandCount) {
+  return {page_record::kBandCountOffset, Rule::kBandCount,
+          "the page says that it has " + counted(record.bandCount, "band") + ", not " +
+              std::to_string(bandCount)};
+}
+
 class PageRules {
  public:
   PageRules(const PageSummary& page, const PageEnd& end)
@@ -32,8 +38,9 @@ class PageRules {
  private:
   // The rows of a page that ends after as many steps as it had; nothing when it does not end so.
   [[nodiscard]] std::optional<std::uint32_t> rowsWithStepsLeftOut() const;
+  [[nodiscard]] bool isExpected(Ink ink) const;
   void checkRows();
-  void checkEnd(bool lastPlaneIsShort);
+  void checkEnd();
   void checkBandCount();
   void checkBlankness();
   void checkPaperSize();
@@ -71,7 +78,7 @@ std::vector<Flaw> PageRules::run() {
 std::optional<std::uint32_t> PageRules::rowsWithStepsLeftOut() const {
   const std::uint32_t steps = page_.summaryOf(Ink::kBlack).bands;
   const std::uint32_t rows = steps * kBandHeight + 1;
-  if (end_.closed || end_.bandsUnknown || steps == 0 ||
+  if (end_.lastFlagged || end_.strayRows > 0 || steps == 0 ||
       rows % kToldRows != page_.record.rowsModulo64K) {
     return std::nullopt;
   }
@@ -84,32 +91,39 @@ std::optional<std::uint32_t> PageRules::rowsWithStepsLeftOut() const {
   return asSent ? std::optional(rows) : std::nullopt;
 }
 
+// Rows that are missing may be in bands that were not understood, which was told.
 void PageRules::checkRows() {
-  if (end_.bandsUnknown) {
-    rowsTold_ = true;
-    return;
-  }
   std::string planes;
-  bool lastPlaneIsShort = false;
+  std::uint64_t missing = 0;
+  bool tooMany = false;
   for (const Ink ink : {Ink::kBlack, Ink::kCyan, Ink::kMagenta, Ink::kYellow}) {
     const std::uint64_t have = page_.summaryOf(ink).rows;
-    if (std::ranges::count(page_.inks(), ink) != 0 && have != rows_) {
+    if (isExpected(ink) && have != rows_) {
       planes.append(planes.empty() ? "" : ", ").append(counted(have, "row"));
       planes.append(" of ").append(nameOf(ink));
+      tooMany = tooMany || have > rows_;
+      missing += have < rows_ ? rows_ - have : 0;
     }
-    lastPlaneIsShort = lastPlaneIsShort || (ink == page_.lastInk() && have < rows_);
   }
-  if (!planes.empty()) {
-    rowsTold_ = true;
+  rowsTold_ = !planes.empty();
+  if (tooMany || missing > end_.strayRows) {
     tell(page_record::kRowsOffset, Rule::kPageRows,
          "the page has " + planes + ", not " + std::to_string(rows_));
   }
-  checkEnd(lastPlaneIsShort);
+  checkEnd();
+}
+
+// Which planes a page of a strange number of planes has nobody knows, but for black.
+bool PageRules::isExpected(Ink ink) const {
+  return end_.planesKnown ? std::ranges::count(page_.inks(), ink) != 0 : ink == Ink::kBlack;
 }
 
 // A page that lacks the rows of its last band lacks the band: that is told once.
-void PageRules::checkEnd(bool lastPlaneIsShort) {
-  if (!end_.closed && !end_.trailerTold && !lastPlaneIsShort && page_.bandCount > 0) {
+void PageRules::checkEnd() {
+  const Ink lastInk = end_.planesKnown ? page_.lastInk() : Ink::kBlack;
+  const bool lastPlaneIsShort = page_.summaryOf(lastInk).rows < rows_;
+  if (!end_.lastFlagged && !end_.lastBandUnknown && !end_.trailerTold && !lastPlaneIsShort &&
+      page_.bandCount > 0) {
     tell(0, Rule::kPageEnd, "the page's last band does not come");
   }
 }
@@ -119,9 +133,7 @@ void PageRules::checkEnd(bool lastPlaneIsShort) {
 void PageRules::checkBandCount() {
   const std::uint16_t told = page_.record.bandCount;
   if (told != bandCountFor(rows_) && told != bandCountFor(blackRows_)) {
-    tell(page_record::kBandCountOffset, Rule::kBandCount,
-         "the page says that it has " + counted(told, "band") + ", not " +
-             std::to_string(bandCountFor(rows_)));
+    flaws_.push_back(wrongBandCount(page_.record, bandCountFor(rows_)));
   }
 }
 
@@ -131,7 +143,7 @@ void PageRules::checkBlankness() {
   }
   if (page_.flaggedBlank && page_.inked) {
     tell(0, Rule::kBlankContent, "the page is flagged as blank and has ink");
-  } else if (end_.closed && !end_.bandsUnknown && !page_.flaggedBlank && !page_.inked &&
+  } else if (end_.lastFlagged && end_.strayRows == 0 && !page_.flaggedBlank && !page_.inked &&
              page_.lostBands == 0) {
     tell(0, Rule::kBlankContent, "the page has no ink and is not flagged as blank");
   }
@@ -171,6 +183,13 @@ RowsTold rowsToldBy(const PageRecord& record) {
 
 std::vector<Flaw> flawsOfPage(const PageSummary& page, const PageEnd& end) {
   return PageRules(page, end).run();
+}
+
+std::vector<Flaw> flawsOfBrokenPage(const PageRecord& record) {
+  if (rowsToldBy(record).consistent) {
+    return {};
+  }
+  return {wrongBandCount(record, bandCountFor(record.rowsModulo64K))};
 }
 
 }  // namespace gdi::reader

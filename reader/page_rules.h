@@ -24,8 +24,10 @@ std::uint32_t bandsFor(std::uint32_t rows);
 
 // How the page ended, and what was told of its bands, so that a fault is not told twice.
 struct PageEnd {
-  bool closed = false;            // its last band has come
-  bool bandsUnknown = false;      // more of its bands may have come than were understood
+  bool planesKnown = true;        // the page record tells a number of planes that exists
+  bool lastFlagged = false;       // its last band has come
+  bool lastBandUnknown = false;   // its last band may have come and was not understood
+  std::uint64_t strayRows = 0;    // at most so many rows came in bands that were not understood
   bool trailerTold = false;       // its final band has a trailer and no flag, which was told
   bool blanknessUnknown = false;  // its last band's page-blank flag is none
   bool widthUnknown = false;      // its rows' pixels cannot be told, or were told to be strange
@@ -33,5 +35,8 @@ struct PageEnd {
 
 // The flaws in the order in which they are told; offsets from the page record's start.
 std::vector<Flaw> flawsOfPage(const PageSummary& page, const PageEnd& end);
+
+// What is wrong with a page record whose page did not come to its end.
+std::vector<Flaw> flawsOfBrokenPage(const PageRecord& record);
 
 }  // namespace gdi::reader

@@ -11,6 +11,7 @@
 #include "printer/format/big_endian.h"
 #include "printer/format/option_code_tables.h"
 #include "printer/format/solvane_date.h"
+#include "reader/counted.h"
 #include "reader/records.h"
 
 namespace gdi::reader {
@@ -70,8 +71,11 @@ class RecordRules {
       const auto inked = std::ranges::find_if(bytes, [](std::uint8_t byte) { return byte != 0; });
       if (inked != bytes.end()) {
         const auto at = field.offset + static_cast<std::size_t>(inked - bytes.begin());
+        const auto more = bytes.end() - inked - std::count(inked, bytes.end(), 0) - 1;
         tell(at, Rule::kZeroField,
-             "byte " + std::to_string(at) + " is " + std::to_string(unsigned{*inked}) + ", not 0");
+             "byte " + std::to_string(at) + " is " + std::to_string(unsigned{*inked}) + ", not 0" +
+                 (more > 0 ? ", nor " + counted(static_cast<std::uint64_t>(more), "more byte")
+                           : std::string()));
       }
     }
   }

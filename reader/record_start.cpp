@@ -38,17 +38,18 @@ std::size_t lengthOf(RecordKind kind) {
 }
 
 std::optional<RecordKind> kindOfTag(std::span<const std::uint8_t> bytes) {
-  return kindOfTagStart(bytes.first(sizeof(Tag)));
-}
-
-std::optional<RecordKind> kindOfTagStart(std::span<const std::uint8_t> bytes) {
-  const auto length = static_cast<std::ptrdiff_t>(std::min(bytes.size(), sizeof(Tag)));
   for (const KindText& kind : kKinds) {
-    if (std::equal(kind.tag.begin(), kind.tag.begin() + length, bytes.begin())) {
+    if (std::ranges::equal(kind.tag, bytes.first(sizeof(Tag)))) {
       return kind.kind;
     }
   }
   return std::nullopt;
+}
+
+bool beginsTag(std::span<const std::uint8_t> bytes) {
+  return std::ranges::any_of(kKinds, [bytes](const KindText& kind) {
+    return std::equal(bytes.begin(), bytes.end(), kind.tag.begin());
+  });
 }
 
 std::optional<RecordKind> kindOfStart(std::uint64_t bytes) {

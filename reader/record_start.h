@@ -25,9 +25,8 @@ std::size_t lengthOf(RecordKind kind);
 // requires: bytes.size() >= 4
 std::optional<RecordKind> kindOfTag(std::span<const std::uint8_t> bytes);
 
-// The same of an input's last bytes, of which a tag may have less than four: the first kind whose
-// tag begins with them. requires: bytes is not empty
-std::optional<RecordKind> kindOfTagStart(std::span<const std::uint8_t> bytes);
+// Whether some tag begins with these bytes, fewer than four, which may be an input's last.
+bool beginsTag(std::span<const std::uint8_t> bytes);
 
 // Bytes that are looked at to find a record among other bytes.
 inline constexpr std::size_t kRecordStartBytes = 8;

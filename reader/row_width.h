@@ -22,6 +22,9 @@ std::uint64_t pixelsOnPaper(std::uint32_t micrometres);
 // the paper's width; the shortest when the paper is of no width or wider than any row.
 std::uint32_t likelyRowBits(const PageRecord& record, unsigned bitsPerPixel);
 
+// Whether a row of that length may be as wide as the paper.
+bool paperVouchesFor(std::uint32_t rowBits, const PageRecord& record, unsigned bitsPerPixel);
+
 // The next longer row with the same low 16 bits; nothing when that were longer than kMaxRowBits.
 std::optional<std::uint32_t> nextLongerRow(std::uint32_t rowBits);
 

@@ -42,7 +42,7 @@ inline constexpr std::uint8_t kConstant0 = 0x00;
 inline constexpr std::size_t kConstant2Offset = 35;
 inline constexpr std::uint8_t kConstant2 = 0x02;
 inline constexpr std::size_t kJobNameOffset = 56;
-inline constexpr std::array<ZeroField, 3> kZeroFields{{{12, 6}, {25, 7}, {36, 20}}};
+inline constexpr std::array<ZeroField, 4> kZeroFields{{{12, 4}, {16, 2}, {25, 7}, {36, 20}}};
 }  // namespace job_record
 
 // Host record: follows the job record.

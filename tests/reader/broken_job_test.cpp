@@ -154,15 +154,65 @@ TEST(BrokenJob, ABandOfNoRowsOrOfTooManyIsLeftOut) {
   }
 }
 
+// The rows of a page of 300 pixels, 48 bytes each.
+jobtest::Rows widerRows(std::size_t count) {
+  return jobtest::rowsOf({.widthPixels = 300}, count);
+}
+
 TEST(BrokenJob, ABandOfAnotherRowWidthIsLeftBlank) {
   JobBuilder job = headers();
-  job.pageRecord(fieldsOf(2))
-      .band({.flags = kFirst | kLast, .rowBits = 256, .rows = 2},
-            literalBand(jobtest::solidRows(2, 32, 1), true))
+  job.pageRecord(fieldsOf(258))
+      .band(Ink::kBlack, kFirst, inkedRows(256))
+      .band({.flags = kLast, .rowBits = 384, .rows = 2}, literalBand(widerRows(2), true))
       .end();
   const ReadJob read = readJob(job);
   EXPECT_EQ(read.rules(), "band-row-bits") << read.told();
-  EXPECT_EQ(read.pages.at(0).plane(Ink::kBlack).rowsOfBand(0), Bytes(32));
+  EXPECT_EQ(read.pages.at(0).plane(Ink::kBlack).rowsOfBand(1), Bytes(32));
+}
+
+TEST(BrokenJob, ABandThatLiesAboutItsRowWidthIsReadAllTheSame) {
+  const ReadJob read = readJob(jobtest::jobOf({.rows = 512}).patch(kSecondBandAt, 24, {1, 0}));
+  EXPECT_EQ(read.rules(), "band-row-bits") << read.told();
+  EXPECT_EQ(read.pages.at(0).plane(Ink::kBlack).rowsOfBand(1), bytesOf(0xF0, 256));
+}
+
+TEST(BrokenJob, RowsAreAsLongAsTheFirstInkSaysAndItsBandAgrees) {
+  JobBuilder job = headers();
+  job.pageRecord(fieldsOf(2))
+      .band({.flags = kFirst | kLast, .rowBits = 384, .rows = 2}, literalBand(widerRows(2), true))
+      .end();
+  const ReadJob read = readJob(job);
+  EXPECT_EQ(read.rules(), "band-row-bits paper-size") << read.told();
+  EXPECT_EQ(read.pages.at(0).rowBits, 384U);
+  EXPECT_EQ(read.pages.at(0).lostBands, 0U);
+}
+
+TEST(BrokenJob, APageWhoseRowsHaveNoLengthTakesThatOfItsBands) {
+  for (const std::uint16_t rowBits : std::initializer_list<std::uint16_t>{1, 127, 65535}) {
+    JobBuilder job = headers();
+    jobtest::PageFields fields = fieldsOf(1);
+    fields.rowBits = rowBits;
+    job.pageRecord(fields).band(Ink::kBlack, kFirst | kLast, inkedRows(1)).end();
+    const ReadJob read = readJob(job);
+    EXPECT_EQ(read.rules(), "page-row-bits") << read.told();
+    EXPECT_EQ(read.pages.at(0).rowBits, 128U);
+    EXPECT_EQ(jobtest::rowsOf(read.pages.at(0).plane(Ink::kBlack)), bytesOf(0xF0, 1));
+  }
+}
+
+TEST(BrokenJob, APageWhoseRowsHaveNoLengthAnywhereLosesItsBands) {
+  JobBuilder job = headers();
+  jobtest::PageFields fields = fieldsOf(1);
+  fields.rowBits = 127;
+  job.pageRecord(fields)
+      .band({.flags = kFirst | kLast, .rowBits = 127, .rows = 1}, literalBand(inkedRows(1), true))
+      .end();
+  const ReadJob read = readJob(job);
+  EXPECT_EQ(read.rules(), "page-row-bits") << read.told();
+  EXPECT_EQ(read.pages.at(0).rowBits, 0U);
+  EXPECT_EQ(read.pages.at(0).lostBands, 1U);
+  EXPECT_EQ(read.pages.at(0).widthPixels(), 0U);
+  EXPECT_TRUE(jobtest::rowsOf(read.pages.at(0).plane(Ink::kBlack)).empty());
 }
 
 TEST(BrokenJob, AColoredBandOnABlackPageIsLeftOut) {
@@ -176,21 +226,6 @@ TEST(BrokenJob, AColoredBandOnABlackPageIsLeftOut) {
   EXPECT_EQ(read.findings[0].text, "a cyan band on a page of black alone");
   EXPECT_EQ(read.pages.at(0).plane(Ink::kCyan).rows(), 0U);
   EXPECT_EQ(jobtest::rowsOf(read.pages.at(0).plane(Ink::kBlack)), bytesOf(0xF0, 1));
-}
-
-TEST(BrokenJob, APageWhoseRowsHaveNoLengthLosesItsBands) {
-  for (const std::uint16_t rowBits : std::initializer_list<std::uint16_t>{1, 127, 65535}) {
-    JobBuilder job = headers();
-    jobtest::PageFields fields = fieldsOf(1);
-    fields.rowBits = rowBits;
-    job.pageRecord(fields).band(Ink::kBlack, kFirst | kLast, inkedRows(1)).end();
-    const ReadJob read = readJob(job);
-    EXPECT_EQ(read.rules(), "page-row-bits") << read.told();
-    EXPECT_EQ(read.pages.at(0).rowBits, 0U);
-    EXPECT_EQ(read.pages.at(0).lostBands, 1U);
-    EXPECT_EQ(read.pages.at(0).widthPixels(), 0U);
-    EXPECT_TRUE(jobtest::rowsOf(read.pages.at(0).plane(Ink::kBlack)).empty());
-  }
 }
 
 TEST(BrokenJob, APageOfAnyNumberOfPlanesIsGiven) {

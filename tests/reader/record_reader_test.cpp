@@ -225,11 +225,40 @@ TEST(RecordReader, AStreamThatEndsInABandBreaksOff) {
   EXPECT_EQ(told.text, "the stream ends after 100 of the black band's 16000 bytes");
 }
 
-TEST(RecordReader, ABandLengthThatIsTooShortLeavesAGap) {
+TEST(RecordReader, ABandLengthThatIsTooShortEndsWhereTheNextRecordBegins) {
+  JobBuilder job = headers();
+  job.pageRecord({}).bandRecord({.rows = 1}, 16).raw(Bytes(48, 7)).pageRecord({}).end();
+  EXPECT_EQ(walk(job), "jhpb*pe");
+  const Told told = flawOf(job);
+  EXPECT_EQ(told.offset, 336U + 8);
+  EXPECT_EQ(told.text, "the band has 16 bytes, and yet the next record begins after 48 bytes");
+  EXPECT_EQ(std::get<Band>(stepsOf(job).at(4).record).data, Bytes(48, 7));
+}
+
+TEST(RecordReader, ABandLengthThatIsTooShortEndsAtTheEndMark) {
   JobBuilder job = headers();
   job.pageRecord({}).bandRecord({.rows = 1}, 16).raw(Bytes(32)).end();
-  EXPECT_EQ(walk(job), "jhpb?*e");
-  EXPECT_EQ(flawOf(job).offset, job.size() - 4 - 16);
+  EXPECT_EQ(walk(job), "jhpb*e");
+  EXPECT_EQ(flawOf(job).rule, Rule::kBandLength);
+}
+
+TEST(RecordReader, ABandEndsAheadOfADamagedRecord) {
+  for (const bool page : {false, true}) {
+    JobBuilder job = headers();
+    job.pageRecord({}).band({.rows = 1}, Bytes(16));
+    const std::size_t damaged = job.size();
+    page ? job.pageRecord({}) : job.band({.rows = 1}, Bytes(16));
+    job.band({.rows = 1}, Bytes(16)).patch(damaged, 0, {'g'}).end();
+    EXPECT_EQ(walk(job), "jhpb?*be") << page;
+    EXPECT_EQ(flawOf(job).offset, damaged);
+  }
+}
+
+TEST(RecordReader, ABandDoesNotGrowBeyondWhatItsRowsCanTake) {
+  // A row takes 2 + 2 x 65,535 bytes at most, and the padding 16 more.
+  JobBuilder job = headers();
+  job.pageRecord({}).bandRecord({.rows = 1}, 16).raw(Bytes(std::size_t{131'104})).pageRecord({});
+  EXPECT_EQ(walk(job.end()), "jhpb?*pe");
 }
 
 TEST(RecordReader, ABandLengthThatIsTooLongEndsWhereTheNextRecordBegins) {

@@ -82,6 +82,14 @@ TEST(SoundJob, AFillerPageAtTheEndMayLeaveANumberOut) {
   EXPECT_EQ(five.pages.size(), 5U);
 }
 
+// Its last band, which would have said that it is blank, is not sent.
+TEST(SoundJob, AFillerPageOf257RowsMayHaveTheInkOfItsScreen) {
+  const ReadJob read = readJob(jobOfPages({{.rows = 257, .steps = 1},
+                                           {.rows = 257, .number = 1, .steps = 1},
+                                           {.rows = 257, .number = 3, .steps = 1}}));
+  EXPECT_EQ(read.rules(), "steps-left-out steps-left-out steps-left-out") << read.told();
+}
+
 TEST(SoundJob, AFillerPageMayAlsoCountOn) {
   EXPECT_EQ(readJob(jobOfPages({{}, {.number = 1}, {.number = 2, .blank = true}})).told(), "");
 }

@@ -147,19 +147,64 @@ TEST(WideRow, OfFourPlanesHasTheSameLengthInAll) {
   }
 }
 
-TEST(WideRow, IsNotTriedOnceThereIsInk) {
-  // 632 pixels of 4 bits: 2,528 and 32 bits are 2,560.
-  const SoundPage narrow = blackPage(632, 257);
+// A page of 632 pixels of 4 bits: 2,528 and 32 bits are the 2,560 that 17,000 pixels tell as well.
+// Its first band is `ink` all over, its second has one row of 17,000 black pixels.
+JobBuilder narrowThenWide(std::uint8_t ink, std::uint32_t paperWidth) {
+  SoundPage narrow = blackPage(632, 257);
+  narrow.ink = ink;
+  jobtest::PageFields fields = fieldsOf(narrow);
+  fields.widthMicrometres = paperWidth;
   JobBuilder job = headers();
-  job.pageRecord(fieldsOf(narrow)).band(Ink::kBlack, kFirst, rowsOf(narrow, 256));
+  job.pageRecord(fields).band(Ink::kBlack, kFirst, rowsOf(narrow, 256));
+  return job.band(Ink::kBlack, kLast, rowsOf(blackPage(kWidePixels, 1), 1)).end();
+}
+
+TEST(WideRow, IsNotTriedWhenThePaperVouchesForTheShorterOne) {
+  for (const std::uint8_t ink : std::initializer_list<std::uint8_t>{0x00, 0xFF}) {
+    const ReadJob read = readJob(narrowThenWide(ink, jobtest::micrometresOf(632)));
+    ASSERT_EQ(read.rules(), "band-data") << read.told();
+    EXPECT_EQ(read.findings[0].record, "page 1, black band 1");
+    EXPECT_EQ(read.pages.at(0).rowBits, 2560U);
+    EXPECT_EQ(read.pages.at(0).plane(Ink::kBlack).rowsOfBand(1), Bytes(320));
+  }
+}
+
+TEST(WideRow, IsTriedOnPaperOfNoWidthBehindInkThatFitsTheShorterOne) {
+  const ReadJob read = readJob(narrowThenWide(0xFF, 0));
+  ASSERT_EQ(read.rules(), "wide-rows") << read.told();
+  const Page& page = read.pages.at(0);
+  EXPECT_EQ(page.rowBits, 68096U);
+  // The 79 words of ink and what is to the right of them, blank.
+  Bytes row(kWideRowBytes);
+  std::fill(row.begin(), row.begin() + 316, 0xFF);
+  EXPECT_EQ(page.plane(Ink::kBlack).rowsOfBand(0), joined(Rows(256, row)));
+}
+
+// A blank band but for a literal run of one word behind the 320 words of a row of 5,120 bits.
+Bytes bandWithAWordBeyondItsRow() {
+  Bytes band = blankBand();
+  const Bytes run{0x00, 0x3F, 0x40, 0x01, 0x34, 0x12};
+  std::copy(run.begin(), run.end(), band.begin() + 6);
+  return band;
+}
+
+TEST(WideRow, ThatThePaperDoesNotSuggestHidesNoFault) {
+  // 5,000 pixels of 1 bit and 32 bits are 5,120 with their padding.
+  const SoundPage page{.rows = 257, .widthPixels = 5000};
+  Rows slack = rowsOf(page, 1);
+  slack[0].back() = 1;
+  JobBuilder job;
+  job.jobRecord(1).hostRecord().pageRecord(fieldsOf(page));
+  const std::size_t first = job.size();
+  job.band({.flags = kFirst, .rowBits = 5120, .rows = 256}, bandWithAWordBeyondItsRow());
   const std::size_t second = job.size();
-  job.band(Ink::kBlack, kLast, rowsOf(blackPage(kWidePixels, 1), 1)).end();
+  job.band({.flags = kLast, .rowBits = 5120, .rows = 1}, jobtest::literalBand(slack, true)).end();
   const ReadJob read = readJob(job);
-  ASSERT_EQ(read.rules(), "band-data");
-  EXPECT_EQ(read.findings[0].offset, second + 32);
-  EXPECT_EQ(read.findings[0].record, "page 1, black band 1");
-  EXPECT_EQ(read.pages.at(0).rowBits, 2560U);
-  EXPECT_EQ(read.pages.at(0).plane(Ink::kBlack).rowsOfBand(1), Bytes(320));
+  EXPECT_EQ(read.rules(), "band-data row-slack") << read.told();
+  ASSERT_EQ(read.findings.size(), 2U);
+  EXPECT_EQ(read.findings[0].offset, first + 32);
+  EXPECT_EQ(read.findings[1].offset, second + 32);
+  EXPECT_EQ(read.pages.at(0).rowBits, 5120U);
 }
 
 }  // namespace
