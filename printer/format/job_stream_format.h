@@ -33,7 +33,7 @@ inline constexpr std::uint16_t kConstant100 = 100;
 inline constexpr std::size_t kCopiesOffset = 10;            // 16 bits
 inline constexpr std::size_t kHostRecordLengthOffset = 18;  // 16 bits
 inline constexpr std::size_t kDateOffset = 20;              // 32 bits, Solvane packed date
-inline constexpr std::size_t kColorOffset = 24;             // 1 = colour
+inline constexpr std::size_t kColorOffset = 24;             // 1 = colour, and yet 0 is sent
 inline constexpr std::size_t kConstant1Offset = 32;
 inline constexpr std::uint8_t kConstant1 = 0x01;
 inline constexpr std::size_t kBitsPerPixelMinus1Offset = 33;
