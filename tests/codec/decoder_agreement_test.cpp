@@ -54,23 +54,29 @@ TEST_P(SpoiltBand, OfEveryKindIsDecodedByBothDecodersAlike) {
 
 INSTANTIATE_TEST_SUITE_P(DecoderAgreement, SpoiltBand, testing::Range(0, kBandKinds));
 
-// Codes of small fields, the clear-row command among them, in records that hold them whole.
+// Codes of small fields, with up to three clear-row commands among them.
+Words randomCodes(std::mt19937& random) {
+  constexpr std::uint16_t kMasks[] = {0x0703, 0x4183, 0x8FFF, 0xC783};
+  Words codes = {0xB000, 0x8FFF};
+  for (std::uint32_t part = 0; part < 3; ++part) {
+    for (auto left = random() % 3; left > 0; --left) {
+      codes.push_back(static_cast<std::uint16_t>(random() & kMasks[random() % 4]));
+    }
+    if (random() % 2 == 0) {
+      codes = codes + (random() % 4 == 0 ? Words{0x3FFF, 0x1234, 0xFFFF} : Words{0x3F00, 0xFFFF});
+      codes.push_back(static_cast<std::uint16_t>(0x8000 | (random() & 0x3FFF)));
+    }
+  }
+  return codes;
+}
+
 TEST(DecoderAgreement, RandomCodesAreDecodedByBothDecodersAlike) {
   std::mt19937 random(6499);  // NOLINT(cert-msc51-cpp,cert-msc32-c): the same ones in every run
-  constexpr std::uint16_t kMasks[] = {0x0703, 0x4183, 0x8FFF, 0xC783};
   int sound = 0;
   for (int i = 0; i < 20000; ++i) {
     Words stream;
     for (int r = 0; r < 3; ++r) {
-      Words codes(random() % 5);
-      for (std::uint16_t& code : codes) {
-        code = static_cast<std::uint16_t>(random() & kMasks[random() % 4]);
-      }
-      codes = Words{0xB000, 0x8FFF} + codes;
-      if (random() % 2 == 0) {
-        codes = codes + (random() % 4 == 0 ? Words{0x3FFF, 0x1234, 0xFFFF} : Words{0x3F00, 0xFFFF});
-        codes = codes + Words{static_cast<std::uint16_t>(0x8000 | (random() & 0x7FFF))};
-      }
+      const Words codes = randomCodes(random);
       stream.push_back(static_cast<std::uint16_t>(codes.size()));
       stream = stream + codes;
     }
@@ -79,6 +85,15 @@ TEST(DecoderAgreement, RandomCodesAreDecodedByBothDecodersAlike) {
   }
   EXPECT_GT(sound, 500);
   EXPECT_LT(sound, 19000);
+}
+
+TEST(DecoderAgreement, TheLastOfSeveralClearRowCommandsClearsWhatWasStoredBeforeIt) {
+  // Word 0 before the first, words 1 and 2 before the second, word 4 behind it.
+  const Words codes = {0x8FFF, 0x3F00, 0xFFFF, 0x8FFF, 0x8FFF, 0x3F00, 0xFFFF, 0x9FFF};
+  const Words stream = Words{8} + codes;
+  EXPECT_TRUE(expectAgreement(streamBytes(stream), 1, 12));
+  EXPECT_EQ(plainDecompress(streamBytes(stream), 1, 6).rows,
+            (Bytes{0, 0, 0, 0, 0, 0, 0, 0, 0xFF, 0xFF, 0, 0}));
 }
 
 TEST(DecoderAgreement, ThePlainDecoderJudgesEachRecordByItself) {
