@@ -1,9 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The rasterToGDI authors
 // SPDX-License-Identifier: Apache-2.0
 
-// Any bitmap, encoded: the band keeps every rule, decodes to the bitmap, stays within the bound and
-// is the same a second time. The first two bytes are the 128-bit units of a row and whether the
-// band is a page's last.
+// Any bitmap, encoded: the band keeps every rule, decodes to the bitmap by either decoder, stays
+// within the bound, and is the same a second time and from the plain encoder. The first two bytes
+// are the 128-bit units of a row less one and whether the band is a page's last. Rows are of up to
+// 2048 bytes, so that a literal run can be long and have a long skip.
 
 #include <algorithm>
 #include <cstddef>
@@ -15,13 +16,15 @@
 #include "codec/pc4sc4.h"
 #include "reader/StoredPlane.h"
 #include "reader/band_data.h"
+#include "tests/codec/plain_encoder.h"
+#include "tests/reader/band_twin.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   const std::size_t header = 2;
   if (size < header) {
     return 0;
   }
-  const std::uint32_t rowBytes = 16 * (data[0] % 32 + 1U);
+  const std::uint32_t rowBytes = 16 * (data[0] % 128 + 1U);
   const bool last = data[1] % 2 != 0;
   const auto rows =
       std::clamp<std::uint32_t>(static_cast<std::uint32_t>((size - header) / rowBytes), 1, 256);
@@ -47,7 +50,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const std::vector<std::uint8_t> band = encode();
   const auto report = gdi::reader::examineBandData(band, rows, rowBytes, last);
   if (!report.complete || !report.flaws.empty() || encode() != band ||
-      gdi::reader::decodeBand(band, rows, rowBytes).rows != bitmap) {
+      gdi::reader::decodeBand(band, rows, rowBytes).rows != bitmap ||
+      gdi::codectest::plainCompress({rowBytes, rows, bitmap}, last) != band ||
+      !gdi::reader::disagreementOn(band, rows, rowBytes, last).empty()) {
     std::abort();
   }
   return 0;

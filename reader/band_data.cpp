@@ -12,6 +12,7 @@
 #include "codec/stream_word.h"
 #include "reader/CodecHabits.h"
 #include "reader/code_words.h"
+#include "reader/counted.h"
 
 namespace gdi::reader {
 
@@ -22,10 +23,6 @@ using Bytes = std::span<const std::uint8_t>;
 constexpr std::size_t kWordBytes = sizeof(pc4sc4::Word);
 constexpr std::size_t kTrailerBytes = sizeof pc4sc4::kTrailer;
 constexpr std::size_t kSlackBytes = 4;  // no pixel stands in a row's last 32 bits
-
-std::string counted(std::uint64_t count, const std::string& noun) {
-  return std::to_string(count) + " " + noun + (count == 1 ? "" : "s");
-}
 
 // Whether not every byte is zero, which is to be zero in front and equal to the next everywhere.
 bool anySet(Bytes bytes) {
@@ -90,10 +87,10 @@ class Examiner {
 
  private:
   bool readRecord(Record& record);
-  bool examineRecord(const Record& record);
-  bool examineWordCount(const Record& record);
+  void examineRecord(const Record& record);
+  bool examineWordCount(const Record& record, std::size_t nops);
   bool decode(const Record& record);
-  void examineRow(const Record& record);
+  void examineRow(const Record& record, bool changed);
   void examineEnd();
   void flaw(std::size_t offset, Rule rule, std::string text) {
     report_.flaws.push_back({offset, rule, std::move(text)});
@@ -107,6 +104,7 @@ class Examiner {
   std::span<std::uint8_t> reference_;  // what the decoder works on
   std::span<std::uint8_t> row_;        // the last row decoded
   std::size_t position_ = 0;
+  bool lost_ = false;   // a row did not decode: nobody knows those below it
   bool slack_ = false;  // of the last row decoded
   std::uint32_t slackRows_ = 0;
   Flaw firstSlack_;
@@ -116,12 +114,12 @@ class Examiner {
 
 BandDataReport Examiner::run() {
   Record record;
-  while (record.row < rows_ && readRecord(record) && examineRecord(record)) {
+  while (record.row < rows_ && readRecord(record)) {
+    examineRecord(record);
     ++record.row;
   }
-  report_.decodedRows = record.row;
-  report_.complete = record.row == rows_;
-  if (report_.complete) {
+  if (record.row == rows_) {
+    report_.complete = !lost_;
     report_.consumed = position_;
     examineEnd();
   }
@@ -166,38 +164,44 @@ bool Examiner::decode(const Record& record) {
       .has_value();
 }
 
-// False when it does not decode.
-bool Examiner::examineRecord(const Record& record) {
+void Examiner::examineRecord(const Record& record) {
   if (record.row == 0 && !beginsWithClearRow(record.codeWords)) {
     flaw(record.start, Rule::kClearRow, "row 0 does not begin with the clear-row command");
   }
-  if (record.words() == 0) {
-    if (record.row == 0) {
-      flaw(record.start, Rule::kRecordMinimum, "row 0 has no code words");
-    }
-    examineRow(record);
-    return true;
+  const std::size_t nops = nopsAtEnd(record.codeWords);
+  bool surplusNops = false;
+  if (record.words() > 0) {
+    surplusNops = examineWordCount(record, nops);
+  } else if (record.row == 0) {
+    flaw(record.start, Rule::kRecordMinimum, "row 0 has no code words");
   }
-  const bool surplusNops = examineWordCount(record);
-  if (!decode(record)) {
+  if (lost_) {
+    if (const std::string trouble = troubleOf(record.codeWords, rowBytes_ / kWordBytes);
+        !trouble.empty()) {
+      flaw(record.start, Rule::kBandData, nameOf(record) + ": " + trouble);
+    }
+    return;
+  }
+  const bool changed = record.words() > nops;
+  if (changed && !decode(record)) {
+    const std::string trouble = troubleOf(record.codeWords, rowBytes_ / kWordBytes);
     flaw(record.start, Rule::kBandData,
-         nameOf(record) + ": " + troubleOf(record.codeWords, rowBytes_ / kWordBytes));
-    return false;
+         nameOf(record) + ": " + (trouble.empty() ? "its codes do not decode" : trouble));
+    lost_ = true;
+    return;
   }
   if (surplusNops) {
     habits_.addSurplusNops(record.start);
   }
   habits_.look(record.codeWords, record.start + kWordBytes, record.row == 0);
-  examineRow(record);
-  return true;
+  examineRow(record, changed);
 }
 
 // Whether the record ends with more NOPs than the writer puts there. Few code words are allowed to
 // the band's last row alone, for the NOPs that bring the band to its length. How many these are
 // depends on what follows; where that is not what it ought to be, either way will do.
-bool Examiner::examineWordCount(const Record& record) {
+bool Examiner::examineWordCount(const Record& record, std::size_t nops) {
   const std::size_t words = record.words();
-  const std::size_t nops = nopsAtEnd(record.codeWords);
   const bool empty = words == nops && record.row > 0;
   const std::size_t least =
       empty ? 0 : std::max<std::size_t>(words - nops, pc4sc4::kMinRecordWords);
@@ -221,9 +225,9 @@ bool Examiner::examineWordCount(const Record& record) {
   return nops > 0 && words > most;
 }
 
-// A row without code words is the row above: nothing has to be looked at again.
-void Examiner::examineRow(const Record& record) {
-  if (record.words() > 0) {
+// A row without changes is the row above: nothing has to be looked at again.
+void Examiner::examineRow(const Record& record, bool changed) {
+  if (changed) {
     report_.inked = report_.inked || anySet(row_);
     slack_ = anySet(row_.last(std::min(kSlackBytes, row_.size())));
   }

@@ -14,11 +14,10 @@
 namespace gdi::reader {
 
 struct BandDataReport {
-  bool complete = false;          // every row record was decoded, in that row width
-  std::size_t consumed = 0;       // bytes of the row records, when complete
-  bool inked = false;             // some bit of a decoded row is set, its last 32 included
-  std::uint32_t decodedRows = 0;  // rows before the first one that does not decode
-  std::vector<Flaw> flaws;        // offsets from the start of the data, rising
+  bool complete = false;     // every row record was decoded, in that row width
+  std::size_t consumed = 0;  // bytes of the row records, when all of them are there
+  bool inked = false;        // some bit of a decoded row is set, its last 32 included
+  std::vector<Flaw> flaws;   // offsets from the start of the data, rising
 };
 
 // Examines a band's data, which may be anything. Rows and their records count from 0.
@@ -26,10 +25,11 @@ struct BandDataReport {
 //   rows      1 to 256
 //   rowBytes  a multiple of 16
 //   last      the band record's last-band flag
-// Ends at the first row that does not decode, and before the first one if the data are too short
-// for so many rows. What a row's number of code words or the missing clear-row command tells is
-// told of that row too; codec habits and the rows' last bits only of those that decode. Allocates
-// two rows and the flaws, of which there is at most one a row and a few a band.
+// Every row that does not decode is told, each judged by its own codes. Once there is one the rows
+// below it are unknown: of these the codes, their number and what follows the last row are still
+// examined, but neither codec habits nor the rows' last bits. Ends where the data end before a row
+// or inside one, and before the first row if they are too short for so many. Allocates two rows and
+// the flaws, of which there are at most two a row and a few a band.
 BandDataReport examineBandData(std::span<const std::uint8_t> data, std::uint32_t rows,
                                std::size_t rowBytes, bool last);
 

@@ -145,7 +145,7 @@ std::string troubleOf(std::span<const std::uint8_t> record, std::size_t rowWords
       return "the " + nameOf(code.kind) + " in code word " + std::to_string(code.at + 1) + misdeed;
     }
   }
-  return "its codes do not decode";
+  return {};
 }
 
 }  // namespace gdi::reader

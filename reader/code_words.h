@@ -55,8 +55,8 @@ class CodeWords {
   std::size_t position_ = 0;
 };
 
-// Says of a record that does not decode what is wrong with it, for example "the copy in code word 3
-// leaves the row on the right". Code words count from 1. A row has `rowWords` pixel words.
+// Says what keeps a record from decoding, for example "the copy in code word 3 leaves the row on
+// the right"; empty when it decodes. Code words count from 1. A row has `rowWords` pixel words.
 std::string troubleOf(std::span<const std::uint8_t> record, std::size_t rowWords);
 
 }  // namespace gdi::reader

@@ -8,8 +8,8 @@
 
 #include <gtest/gtest.h>
 
-#include "reader/StoredPlane.h"
 #include "tests/codec/random_bands.h"
+#include "tests/reader/band_twin.h"
 #include "tests/reader/band_words.h"
 
 namespace gdi::reader {
@@ -32,7 +32,6 @@ void expectSound(const Band& band, bool last) {
   ASSERT_EQ(said(report), Lines());
   EXPECT_TRUE(report.complete);
   EXPECT_EQ(report.consumed, data.size() - (last ? 8 : 0));
-  EXPECT_EQ(report.decodedRows, band.rows);
   EXPECT_EQ(report.inked, std::ranges::any_of(band.bytes, [](auto byte) { return byte != 0; }));
 }
 
@@ -73,24 +72,6 @@ TEST(AnyBandData, ALastRowThatIsLikeTheOneAboveIsSoundWhereverItStands) {
   }
 }
 
-// What every report keeps to; the codec alone decides whether the data decode.
-void expectInOrder(const Bytes& data, std::uint32_t rows, std::size_t rowBytes, bool last) {
-  const BandDataReport report = examineBandData(data, rows, rowBytes, last);
-  const DecodedBand decoded = decodeBand(data, rows, rowBytes);
-  ASSERT_EQ(report.complete, decoded.complete);
-  ASSERT_EQ(report.consumed, decoded.consumed);
-  ASSERT_EQ(report.complete, report.decodedRows == rows);
-  ASSERT_TRUE(std::ranges::is_sorted(report.flaws, {}, &Flaw::offset));
-  ASSERT_EQ(std::ranges::count(report.flaws, Rule::kBandData, &Flaw::rule),
-            decoded.complete ? 0 : 1);
-  for (const Flaw& flaw : report.flaws) {
-    ASSERT_LE(flaw.offset, data.size());
-    ASSERT_FALSE(flaw.text.empty());
-    ASSERT_EQ(flaw.text.find('\n'), std::string::npos);
-    ASSERT_EQ(flaw.text.find("do not decode"), std::string::npos) << "a reason is known for all";
-  }
-}
-
 Band smallBand() {
   std::mt19937 random(99);
   return withoutSlack(randomBand(BandKind::kEditedRows, 48, 4, random));
@@ -103,8 +84,7 @@ TEST(AnyBandData, EveryByteMayBeAnyOther) {
       const std::uint8_t sound = byte;
       for (int value = 0; value < 256; ++value) {
         byte = static_cast<std::uint8_t>(value);
-        expectInOrder(data, 4, 48, last);
-        ASSERT_FALSE(HasFatalFailure());
+        ASSERT_EQ(disagreementOn(data, 4, 48, last), "") << value;
       }
       byte = sound;
     }
@@ -115,14 +95,14 @@ TEST(AnyBandData, TheDataMayEndAnywhere) {
   const Bytes data = codectest::compressed(smallBand(), true);
   for (std::size_t size = 0; size < data.size(); ++size) {
     const Bytes cut(data.begin(), data.begin() + static_cast<std::ptrdiff_t>(size));
-    expectInOrder(cut, 4, 48, true);
+    ASSERT_EQ(disagreementOn(cut, 4, 48, true), "") << size;
     ASSERT_FALSE(examineBandData(cut, 4, 48, true).flaws.empty()) << size;
   }
 }
 
 TEST(AnyBandData, TheDataMayBeNoise) {
   std::mt19937 random(7);
-  for (int i = 0; i < 20000; ++i) {
+  for (int i = 0; i < 10000; ++i) {
     Words words;
     for (std::size_t record = 0; record < 3; ++record) {
       Words codes(1 + random() % 12);
@@ -133,8 +113,7 @@ TEST(AnyBandData, TheDataMayBeNoise) {
       words.push_back(static_cast<std::uint16_t>(codes.size()));
       words = words + codes;
     }
-    expectInOrder(bytesOf(words), 3, i % 2 == 0 ? 256 : 4096, i % 3 == 0);
-    ASSERT_FALSE(HasFatalFailure());
+    ASSERT_EQ(disagreementOn(bytesOf(words), 3, i % 2 == 0 ? 256 : 4096, i % 3 == 0), "") << i;
   }
 }
 
