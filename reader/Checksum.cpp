@@ -27,6 +27,12 @@ void Checksum::add(std::span<const std::uint8_t> bytes) {
   }
 }
 
+void Checksum::add(const Checksum& bytes) {
+  mark(bytes.bytes_);
+  mark(bytes.value_);
+  bytes_ += bytes.bytes_;
+}
+
 void Checksum::mark(std::uint64_t number) {
   std::array<std::uint8_t, sizeof(number)> bytes{};
   putBigEndian32(bytes, 0, static_cast<std::uint32_t>(number >> 32));

@@ -12,7 +12,9 @@ namespace gdi::reader {
 class Checksum {
  public:
   void add(std::span<const std::uint8_t> bytes);
-  // Adds what is no byte of its own: where bytes stand, or the value of another checksum.
+  // Adds bytes of which only their checksum is known.
+  void add(const Checksum& bytes);
+  // Adds what is no byte of its own: where bytes stand, or what they are.
   void mark(std::uint64_t number);
 
   // How many bytes were added; marks do not count.
