@@ -250,7 +250,7 @@ TEST_F(DiffJobs, APrologueIsComparedToItsEnd) {
   EXPECT_EQ(run(withPrologue('a'), withPrologue('b')), kSound);
 }
 
-constexpr char kOtherBytesDiffer[] =
+constexpr const char* kOtherBytesDiffer =
     "job: differs in bytes outside its prologue, first records and pages\n";
 
 TEST_F(DiffJobs, TheRecordsOfASecondJobAreCompared) {

@@ -213,14 +213,14 @@ TEST(RecordReader, WhatIsNoWholeRecordHasAChecksumOfAllItsBytes) {
 }
 
 TEST(RecordReader, TheChecksumOfALongPrologueIsOfAllItsBytes) {
-  Bytes bytes(200'000, '.');
+  Bytes bytes(70'000, '.');
   const auto checksumOf = [](const Bytes& prologue) {
     return stepsOf(JobBuilder().raw(prologue).jobRecord(1).hostRecord().end()).at(0).checksum;
   };
   Checksum whole;
   whole.add(bytes);
   EXPECT_EQ(checksumOf(bytes), whole);
-  for (const std::size_t at : std::initializer_list<std::size_t>{0, 65527, 65528, 65536, 199'999}) {
+  for (const std::size_t at : std::initializer_list<std::size_t>{0, 65527, 65528, 65536, 69'999}) {
     Bytes other = bytes;
     other[at] = ',';
     EXPECT_NE(checksumOf(other), whole) << at;

@@ -17,7 +17,7 @@
 namespace gdi::gdiview {
 
 // The name under which a difference of the prologues is ignored.
-inline constexpr char kPrologueName[] = "prologue";
+inline constexpr const char* kPrologueName = "prologue";
 
 // What is neither of a job's prologue nor of a page.
 struct OtherBytes {
