@@ -6,10 +6,12 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <string>
 #include <vector>
 
+#include "reader/Checksum.h"
 #include "reader/StoredPlane.h"
 #include "reader/records.h"
 #include "reader/row_width.h"
@@ -71,10 +73,21 @@ struct PageSummary {
   [[nodiscard]] std::uint32_t widthPixels() const;
 };
 
+// A band record as it stands, and what became of it.
+struct BandOnPage {
+  std::array<std::uint8_t, band_record::kLength> header{};
+  std::optional<BandPlace> place;  // none: the page has none for it
+  std::uint64_t dataBytes = 0;     // that followed it
+};
+
 struct Page : PageSummary {
-  std::vector<std::uint8_t> header;  // the page record as it stands
-  // The band records as they stand, in the order in which they came.
-  std::vector<std::array<std::uint8_t, band_record::kLength>> bandHeaders;
+  std::vector<std::uint8_t> header;     // the page record as it stands
+  std::vector<BandOnPage> bandRecords;  // in the order in which they came
+  // What else came inside the page, and behind how many bands: bytes that are no record, data of
+  // bands without a place, and that there were records which are no page's. Only the first are
+  // counted.
+  Checksum strayBytes;
+  // A band of a plane has the index of its place.
   std::array<StoredPlane, kInkCount> planes;
 
   [[nodiscard]] const StoredPlane& plane(Ink ink) const { return planes[indexOf(ink)]; }

@@ -74,13 +74,14 @@ RecordStep RecordReader::readPrologue() {
   Prologue prologue;
   if (prologueIsAsExpected(prologue)) {
     foundRecord_ = true;
-    step.bytes = prologue.start.size();
+    step.checksum.add(prologue.start);
   } else {
-    SkippedBytes skipped = skipToRecord(source_);
+    SkippedBytes skipped = skipPrologue(source_);
     foundRecord_ = skipped.foundRecord;
-    step.bytes = skipped.count;
+    step.checksum = skipped.checksum;
     prologue.start = std::move(skipped.start);
   }
+  step.bytes = step.checksum.bytes();
   step.record = std::move(prologue);
   return step;
 }
@@ -121,6 +122,7 @@ RecordStep RecordReader::readRecord(RecordKind kind) {
   foundRecord_ = true;
   lengthWasUnknown_ = false;
   if (step.bytes < bytes.size()) {
+    step.checksum.add(bytes.first(step.bytes));
     breakOff(step, "the stream ends after " + std::to_string(step.bytes) + " of the " +
                        nameOf(kind) + "'s " + std::to_string(bytes.size()) + " bytes");
     return step;
@@ -172,6 +174,8 @@ void RecordReader::readBand(std::span<const std::uint8_t> bytes, RecordStep& ste
   BandBytes read = bandData_.read(band.record, band.ink);
   step.bytes += read.data.size();
   if (read.brokenOff) {
+    step.checksum.add(bytes);
+    step.checksum.add(read.data);
     breakOff(step, "the stream ends after " + std::to_string(read.data.size()) + " of the " +
                        nameOf(*band.ink) + " band's " + counted(length, "byte"));
     return;
@@ -210,7 +214,8 @@ RecordStep RecordReader::readGap() {
   RecordStep step;
   step.offset = source_.offset();
   const std::string start = hexadecimal(source_.peek(sizeof(Tag)));
-  step.bytes = skipToRecord(source_).count;
+  step.checksum = skipToRecord(source_).checksum;
+  step.bytes = step.checksum.bytes();
   step.record = Gap{};
   gapWasTold_ = !lengthWasUnknown_;
   if (gapWasTold_) {

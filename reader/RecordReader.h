@@ -16,6 +16,7 @@
 
 #include "reader/BandDataReader.h"
 #include "reader/ByteSource.h"
+#include "reader/Checksum.h"
 #include "reader/record_order.h"
 #include "reader/record_search.h"
 #include "reader/records.h"
@@ -51,6 +52,7 @@ struct RecordStep {
   std::uint64_t bytes = 0;   // of the record, its band data included
   std::variant<Prologue, JobRecord, HostRecord, PageRecord, Band, EndOfJob, Gap, BrokenOff> record;
   std::vector<std::uint8_t> header;  // the record as it stands, without band data
+  Checksum checksum;                 // of all bytes of a prologue, a gap and a broken-off record
   std::vector<Flaw> flaws;           // what is wrong with it by itself, offsets from its start
 };
 

@@ -11,32 +11,46 @@
 
 namespace gdi::reader {
 
-void StoredPlane::append(std::uint32_t rows, std::vector<std::uint8_t> data) {
-  arrivedRows_ += rows;
-  if (lostBeyond_ + heldRows_ <= arrivedRows_) {
-    for (const std::uint32_t lostRows : held_) {
-      add(lostRows, {});
-    }
-    lostBeyond_ += heldRows_;
+bool StoredPlane::append(std::uint32_t rows, std::vector<std::uint8_t> data) {
+  const bool heldRowsCount = lostBeyond_ + heldRows_ <= arrivedRows_ + rows;
+  if (rows_ + (heldRowsCount ? heldRows_ : 0) + rows > kMostRows) {
+    Checksum bytes;
+    bytes.add(data);
+    appendLost(0, bytes);
+    return false;
+  }
+  if (heldRowsCount) {
+    countHeldRows();
   }
   held_.clear();
   heldRows_ = 0;
+  arrivedRows_ += rows;
   data.shrink_to_fit();
-  add(rows, std::move(data));
-}
-
-void StoredPlane::appendLost(std::uint32_t rows) {
-  if (held_.empty() && std::uint64_t{rows_} + rows <= toldRows_) {
-    add(rows, {});
-    return;
-  }
-  held_.push_back(rows);
-  heldRows_ += rows;
-}
-
-void StoredPlane::add(std::uint32_t rows, std::vector<std::uint8_t> data) {
-  bands_.push_back({rows_, rows, std::move(data)});
+  bands_.push_back({rows_, rows, std::move(data), {}});
   rows_ += rows;
+  return true;
+}
+
+void StoredPlane::countHeldRows() {
+  auto band = bands_.end() - static_cast<std::ptrdiff_t>(held_.size());
+  for (const std::uint32_t rows : held_) {
+    band->firstRow = rows_;
+    band->rows = rows;
+    rows_ += rows;
+    ++band;
+  }
+  lostBeyond_ += heldRows_;
+}
+
+void StoredPlane::appendLost(std::uint32_t rows, const Checksum& bytes) {
+  const bool counts = held_.empty() && std::uint64_t{rows_} + rows <= toldRows_;
+  bands_.push_back({rows_, counts ? rows : 0, {}, bytes});
+  if (counts) {
+    rows_ += rows;
+  } else {
+    held_.push_back(rows);
+    heldRows_ += rows;
+  }
 }
 
 std::vector<std::uint8_t> StoredPlane::rowsOfBand(std::size_t band) const {
@@ -64,12 +78,6 @@ std::span<const std::uint8_t> PlaneRows::row(std::uint32_t y) {
   }
   return std::span<const std::uint8_t>(rows_).subspan((y - firstRow_) * plane_.rowBytes(),
                                                       plane_.rowBytes());
-}
-
-std::span<const std::uint8_t> RowCursor::next() {
-  const auto row = rows_.row(y_);
-  y_ += row.empty() ? 0 : 1;
-  return row;
 }
 
 // A row record is at least one stream word.

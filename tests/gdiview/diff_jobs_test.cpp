@@ -96,7 +96,7 @@ TEST_F(DiffJobs, AFieldOfAPageRecordIsTold) {
 
 TEST_F(DiffJobs, ABandsFlagsAreToldWithTheirMeaning) {
   EXPECT_EQ(toldOf(kBand1Offset, 7, {1}),
-            "page 1: band record 1: flags: 3 (first of its plane, last of the page) in A, "
+            "page 1: black band 0: flags: 3 (first of its plane, last of the page) in A, "
             "1 (first of its plane) in B\n");
 }
 
@@ -105,13 +105,13 @@ TEST_F(DiffJobs, AFieldOfManyBandRecordsIsOneLine) {
   JobBuilder other = twoPages();
   other.patch(kBand2Offset + 64, 7, {0}).patch(kBand2Offset + 128, 7, {0});
   EXPECT_EQ(told(twoPages(), other),
-            "page 2: band record 2: flags: 1 (first of its plane) in A, 0 in B, "
+            "page 2: cyan band 0: flags: 1 (first of its plane) in A, 0 in B, "
             "and so in 1 more record\n");
 }
 
 TEST_F(DiffJobs, AByteThatIsNoFieldIsToldByItsPlace) {
   EXPECT_EQ(toldOf(kPage1Offset, 16, {9}), "page 1: byte 16: 0 in A, 9 in B\n");
-  EXPECT_EQ(toldOf(kBand1Offset, 28, {1}), "page 1: band record 1: byte 28: 0 in A, 1 in B\n");
+  EXPECT_EQ(toldOf(kBand1Offset, 28, {1}), "page 1: black band 0: byte 28: 0 in A, 1 in B\n");
 }
 
 TEST_F(DiffJobs, IgnoredFieldsMayDiffer) {
@@ -172,6 +172,223 @@ TEST_F(DiffJobs, TheLengthOfARecodedBandIsNoDifferenceOfItsOwn) {
   ASSERT_EQ(longer.size(), shorter.size() + 16);
   EXPECT_EQ(told(shorter, longer),
             "page 1, black: 1 band with different bytes for the same rows, the first is 0\n");
+}
+
+// A row record of so many words is longer than the band.
+constexpr std::size_t kData1Offset = kBand1Offset + 32;
+
+TEST_F(DiffJobs, ABandThatDecodesInNeitherIsComparedByItsBytes) {
+  const auto broken = [](std::uint8_t byte) {
+    return twoPages().patch(kData1Offset, 0, {byte, 0xFF});
+  };
+  EXPECT_EQ(run(broken(0xFE), broken(0xFE)), kSound);
+  EXPECT_EQ(told(broken(0xFE), broken(0xFF)),
+            "page 1, black: 1 band with different bytes that cannot be decoded, "
+            "the first is 0\n");
+}
+
+TEST_F(DiffJobs, ABandThatIsBlankInOneAndLostInTheOtherIsToldAsThat) {
+  JobBuilder lost = blackPage(1, {rowOf(0)});
+  lost.patch(kData1Offset, 0, {0xFF, 0xFF});
+  const JobBuilder blank = blackPage(1, {rowOf(0)});
+  EXPECT_EQ(told(lost, blank), "page 1, black: 1 band to be decoded only in B, the first is 0\n");
+  EXPECT_EQ(told(blank, lost), "page 1, black: 1 band to be decoded only in A, the first is 0\n");
+}
+
+TEST_F(DiffJobs, APlaneThatOnePageLacksIsOneLine) {
+  JobBuilder color;
+  color.jobRecord(1).hostRecord().pageRecord({.rows = 1, .channels = 4});
+  color.band(Ink::kBlack, kFirst, {rowOf(0xF0)});
+  color.band(Ink::kCyan, kFirst, {rowOf(0)}).band(Ink::kMagenta, kFirst, {rowOf(0)});
+  color.band(Ink::kYellow, kFirst | kLast, {rowOf(0x80)}).end();
+  EXPECT_EQ(told(blackPage(1, {rowOf(0xF0)}), color),
+            "page 1: planes: 1 (black) in A, 4 (CMYK) in B\n"
+            "page 1, cyan: only in B, 1 band\n"
+            "page 1, magenta: only in B, 1 band\n"
+            "page 1, yellow: only in B, 1 band\n"
+            "page 1: black band 0: flags: 3 (first of its plane, last of the page) in A, "
+            "1 (first of its plane) in B\n"
+            "page 1, yellow: 1 pixel differs, the first at column 0, row 0\n"
+            "page 1, black: 1 band with different bytes for the same rows, the first is 0\n");
+}
+
+TEST_F(DiffJobs, AMissingBandIsCountedInItsPlane) {
+  JobBuilder a;
+  a.jobRecord(1).hostRecord().pageRecord({.rows = 2});
+  JobBuilder b = a;
+  a.band(Ink::kBlack, kFirst, {rowOf(0xF0)}).band(Ink::kBlack, 0, {rowOf(0)}).end();
+  b.band(Ink::kBlack, kFirst, {rowOf(0xF0)}).end();
+  EXPECT_EQ(told(a, b), "page 1, black: 2 bands in A, 1 in B\n");
+}
+
+// Cyan's record and data are the first 64 bytes behind black's.
+TEST_F(DiffJobs, BandsInAnotherOrderAreTold) {
+  const JobBuilder a = twoPages();
+  JobBuilder b = a;
+  const auto black = b.bytes().begin() + kBand2Offset;
+  std::rotate(black, black + 64, black + 128);
+  EXPECT_EQ(told(a, b),
+            "page 2: band record 1: plane: black in A, cyan in B, and so in 1 more record\n");
+}
+
+// A band of 64 bytes whose record says 60: what is missing is read all the same.
+TEST_F(DiffJobs, ALengthThatLiesOfTheSameBytesIsTold) {
+  EXPECT_EQ(toldOf(kBand1Offset, 11, {60}),
+            "page 1: black band 0: black_bytes: 64 in A, 60 in B\n");
+}
+
+TEST_F(DiffJobs, APrologueIsComparedToItsEnd) {
+  const auto withPrologue = [](char last) {
+    JobBuilder job;
+    job.text(std::string(2000, '.') + last).raw(twoPages().bytes());
+    return job;
+  };
+  EXPECT_EQ(run(withPrologue('a'), withPrologue('a')), kSound);
+  EXPECT_EQ(told(withPrologue('a'), withPrologue('b')),
+            "prologue: differs behind its first 1024 bytes\n");
+  options_.ignored = {"prologue"};
+  EXPECT_EQ(run(withPrologue('a'), withPrologue('b')), kSound);
+}
+
+constexpr const char* kOtherBytesDiffer =
+    "job: differs in bytes outside its prologue, first records and pages\n";
+
+TEST_F(DiffJobs, TheRecordsOfASecondJobAreCompared) {
+  const JobBuilder a = twoPages().raw(twoPages().bytes());
+  const JobBuilder b = twoPages().raw(twoPages("Letter").bytes());
+  EXPECT_EQ(run(a, a), kSound);
+  EXPECT_EQ(told(a, b), kOtherBytesDiffer);
+  JobBuilder c = a;
+  c.patch(twoPages().size() + kHostOffset, 8, {'d', 'i'});
+  EXPECT_EQ(told(a, c), kOtherBytesDiffer);
+}
+
+TEST_F(DiffJobs, IgnoredFieldsOfASecondJobMayDiffer) {
+  const JobBuilder a = twoPages().raw(twoPages().bytes());
+  JobBuilder b = twoPages().raw(twoPages().bytes());
+  b.patch(twoPages().size() + kHostOffset, 8, {'d', 'i'});
+  b.patch(twoPages().size(), 23, {0xD6});
+  options_.ignored = {"date", "host"};
+  EXPECT_EQ(run(a, b), kSound);
+  b.patch(twoPages().size() + kHostOffset, 72, {'e', 'm', 'm'});
+  EXPECT_EQ(told(a, b), kOtherBytesDiffer);
+}
+
+// Without a job record ahead of the first page.
+TEST_F(DiffJobs, AJobRecordBehindThePagesIsCompared) {
+  const auto jobOf = [](const std::string& name) {
+    JobBuilder job = twoPages();
+    job.bytes().erase(job.bytes().begin(), job.bytes().begin() + kPage1Offset);
+    return job.raw(twoPages(name).bytes());
+  };
+  EXPECT_EQ(told(jobOf("Report"), jobOf("Letter")), kOtherBytesDiffer);
+}
+
+TEST_F(DiffJobs, BytesBetweenBandsAreCompared) {
+  const auto withGap = [](const std::string& gap) {
+    JobBuilder job = twoPages();
+    job.bytes().insert(job.bytes().begin() + kPage2Offset, gap.begin(), gap.end());
+    return job;
+  };
+  EXPECT_EQ(run(withGap("abc"), withGap("abc")), kSound);
+  EXPECT_EQ(told(withGap("abc"), withGap("abd")), "page 1: differs in bytes beside its bands\n");
+  EXPECT_EQ(told(withGap("abc"), withGap("abcd")),
+            "page 1: 3 bytes beside its bands in A, 4 in B\n");
+}
+
+TEST_F(DiffJobs, WhereBytesStandBetweenBandsIsCompared) {
+  const auto withGapAt = [](std::ptrdiff_t offset) {
+    JobBuilder job = twoPages();
+    job.bytes().insert(job.bytes().begin() + offset, 3, '.');
+    return job;
+  };
+  EXPECT_EQ(told(withGapAt(kBand2Offset + 64), withGapAt(kBand2Offset + 128)),
+            "page 2: differs in bytes beside its bands\n");
+}
+
+TEST_F(DiffJobs, TheDataOfABandThatThePageHasNoPlaceForAreCompared) {
+  const auto withCyan = [](std::uint8_t byte) {
+    JobBuilder job;
+    job.jobRecord(1).hostRecord().pageRecord({.rows = 1});
+    job.band(Ink::kCyan, kFirst, {rowOf(byte)}).band(Ink::kBlack, kFirst | kLast, {rowOf(0)});
+    return job.end();
+  };
+  EXPECT_EQ(told(withCyan(1), withCyan(2)), "page 1: differs in bytes beside its bands\n");
+  EXPECT_EQ(told(withCyan(1), blackPage(1, {rowOf(0)})),
+            "page 1, without a place: only in A, 1 band record\n"
+            "page 1: differs in bytes beside its bands\n");
+}
+
+TEST_F(DiffJobs, BytesBehindTheEndOfTheJobAreCompared) {
+  EXPECT_EQ(told(twoPages().text("abc"), twoPages().text("abd")), kOtherBytesDiffer);
+}
+
+TEST_F(DiffJobs, ABandAheadOfTheFirstPageIsCompared) {
+  const auto withBand = [](std::uint32_t flags, std::uint8_t byte) {
+    JobBuilder job;
+    job.jobRecord(1).hostRecord().band(Ink::kBlack, flags, {rowOf(byte)});
+    const JobBuilder page = blackPage(1, {rowOf(0)});
+    return job.raw(Bytes(page.bytes().begin() + kPage1Offset, page.bytes().end()));
+  };
+  EXPECT_EQ(run(withBand(1, 2), withBand(1, 2)), kSound);
+  EXPECT_EQ(told(withBand(1, 2), withBand(1, 3)), kOtherBytesDiffer);
+  EXPECT_EQ(told(withBand(1, 2), withBand(0, 2)), kOtherBytesDiffer);
+  options_.ignored = {"flags"};
+  EXPECT_EQ(run(withBand(1, 2), withBand(0, 2)), kSound);
+}
+
+TEST_F(DiffJobs, WhatAStreamBreaksOffInIsCompared) {
+  for (const std::size_t size :
+       {kData1Offset + 20, kBand1Offset + 20, kPage1Offset + 20, kHostOffset + 20}) {
+    JobBuilder a = twoPages();
+    a.bytes().resize(size);
+    JobBuilder b = a;
+    b.bytes().back() ^= 0x40;
+    EXPECT_EQ(run(a, a), kSound) << size;
+    EXPECT_EQ(told(a, b), kOtherBytesDiffer) << size;
+  }
+}
+
+TEST_F(DiffJobs, ARecordAheadOfAnotherPageIsADifference) {
+  const auto withHostAt = [](std::ptrdiff_t offset) {
+    JobBuilder job = twoPages();
+    const Bytes host(job.bytes().begin() + kHostOffset, job.bytes().begin() + kPage1Offset);
+    job.bytes().insert(job.bytes().begin() + offset, host.begin(), host.end());
+    return job;
+  };
+  EXPECT_EQ(told(withHostAt(kPage1Offset), withHostAt(kEndOffset)),
+            std::string("page 2: differs in bytes beside its bands\n").append(kOtherBytesDiffer));
+}
+
+// Rows of 5 bits are none that exist: what they hold cannot be told.
+TEST_F(DiffJobs, PagesWithoutPixelsAreComparedByTheirBytes) {
+  options_.folder = scratch_.path();
+  const auto withoutPixels = [](std::uint8_t byte) {
+    JobBuilder job;
+    job.jobRecord(1).hostRecord().pageRecord({.rowBits = 5, .rows = 1});
+    job.band({.flags = kFirst | kLast, .rowBits = 5, .rows = 1},
+             jobtest::literalBand({rowOf(byte)}, true));
+    return job.end();
+  };
+  EXPECT_EQ(run(withoutPixels(1), withoutPixels(1)), kSound);
+  EXPECT_EQ(told(withoutPixels(1), withoutPixels(2)),
+            "page 1, black: 1 band with different bytes that cannot be decoded, "
+            "the first is 0\n");
+  EXPECT_NE(told(withoutPixels(1), blackPage(1, {rowOf(0x81)}))
+                .find("page 1, black: 2 pixels differ, the first at column 0, row 0\n"
+                      "page 1, black: 1 band with different rows, the first is 0\n"
+                      "page 1, black: 1 band to be decoded only in B, the first is 0\n"),
+            std::string::npos);
+}
+
+// Each byte of a job is changed in turn: none differs unseen.
+TEST_F(DiffJobs, NoByteDiffersUnseen) {
+  const JobBuilder whole = twoPages().raw(twoPages().bytes()).text("abc");
+  for (std::size_t at = 0; at < whole.size(); ++at) {
+    JobBuilder other = whole;
+    other.bytes()[at] ^= 0x40U;
+    EXPECT_EQ(run(whole, other), kFaulty) << at;
+  }
 }
 
 // 0x0F and 0x2C differ in 0b00100011.

@@ -104,6 +104,21 @@ TEST(HeaderDifference, ABandsLengthsAreFieldsOfTheirInks) {
       (Differences{{"black_bytes", "64", "0"}, {"cyan_bytes", "0", "64"}, {"byte 29", "0", "5"}}));
 }
 
+// A name's 64 bytes begin at byte 8, and the date's four at byte 20.
+TEST(HeaderDifference, TheBytesOfFieldsAreAllOfThem) {
+  const std::vector<std::string> names{"host", "date"};
+  const std::vector<bool> host = bytesOfFields(RecordKind::kHost, names);
+  ASSERT_EQ(host.size(), 152U);
+  const std::vector<bool> job = bytesOfFields(RecordKind::kJob, names);
+  ASSERT_EQ(job.size(), 120U);
+  for (std::size_t at = 0; at < host.size(); ++at) {
+    EXPECT_EQ(host[at], at >= 8 && at < 72) << at;
+  }
+  for (std::size_t at = 0; at < job.size(); ++at) {
+    EXPECT_EQ(job[at], at >= 20 && at < 24) << at;
+  }
+}
+
 // All but the tag, which tells what kind of record it is.
 TEST(HeaderDifference, NoByteOfARecordDiffersUnseen) {
   const auto expectSeen = [](RecordKind kind, const Bytes& record) {

@@ -26,14 +26,22 @@ PlaneDifference blackDifference(const Page& a, const Page& b) {
   return differenceOf(a, b).plane(Ink::kBlack);
 }
 
+void expectSame(const PlaneDifference& plane) {
+  EXPECT_EQ(plane.pixels, 0U);
+  EXPECT_EQ(plane.paddingBits, 0U);
+  for (const BandCount& bands :
+       {plane.different, plane.recoded, plane.decodedInA, plane.decodedInB, plane.lostOtherwise}) {
+    EXPECT_EQ(bands.count, 0U);
+    EXPECT_FALSE(bands.first);
+  }
+}
+
 TEST(PageDifference, EqualPagesDifferInNothing) {
   const Page page = blackPage(1, 96, {rowStartingWith({0xA0, 0x01})});
   const PageDifference difference = differenceOf(page, page);
   EXPECT_TRUE(difference.comparable);
   EXPECT_TRUE(difference.samePixels());
-  EXPECT_TRUE(difference.sameBits());
-  EXPECT_TRUE(difference.sameBytes());
-  EXPECT_EQ(difference.plane(Ink::kBlack).pixels, 0U);
+  expectSame(difference.plane(Ink::kBlack));
   EXPECT_FALSE(difference.plane(Ink::kBlack).firstPixel);
 }
 
@@ -49,13 +57,11 @@ TEST(PageDifference, PixelsAreCountedAndTheFirstIsTheLeftmostInTheTopmostRow) {
   EXPECT_EQ(black.pixels, 4U);  // three in the row of 0x10 ^ 0x09, one in the row below
   EXPECT_EQ(black.firstPixel, (PixelPlace{19, 1}));
   EXPECT_EQ(black.paddingBits, 0U);
-  EXPECT_EQ(black.differentBands, 1U);
-  EXPECT_EQ(black.firstDifferentBand, 0U);
-  EXPECT_EQ(black.recodedBands, 0U);
-  EXPECT_FALSE(black.firstRecodedBand);
+  EXPECT_EQ(black.different.count, 1U);
+  EXPECT_EQ(black.different.first, 0U);
+  EXPECT_EQ(black.recoded.count, 0U);
+  EXPECT_FALSE(black.recoded.first);
   EXPECT_FALSE(difference.samePixels());
-  EXPECT_FALSE(difference.sameBits());
-  EXPECT_FALSE(difference.sameBytes());
 }
 
 TEST(PageDifference, APixelOfSeveralBitsCountsOnceHoweverManyOfThemDiffer) {
@@ -82,12 +88,10 @@ TEST(PageDifference, EqualRowsInOtherBytesAreABandCodedOtherwise) {
   ASSERT_EQ(b.plane(Ink::kBlack).rowsOfBand(0), Bytes(16, 0xFF));
   const PageDifference difference = differenceOf(a, b);
   const PlaneDifference& black = difference.plane(Ink::kBlack);
-  EXPECT_EQ(black.recodedBands, 1U);
-  EXPECT_EQ(black.firstRecodedBand, 0U);
-  EXPECT_EQ(black.differentBands, 0U);
+  EXPECT_EQ(black.recoded.count, 1U);
+  EXPECT_EQ(black.recoded.first, 0U);
+  EXPECT_EQ(black.different.count, 0U);
   EXPECT_TRUE(difference.samePixels());
-  EXPECT_TRUE(difference.sameBits());
-  EXPECT_FALSE(difference.sameBytes());
 }
 
 TEST(PageDifference, BitsRightOfTheWidthAreCountedAsPadding) {
@@ -99,10 +103,9 @@ TEST(PageDifference, BitsRightOfTheWidthAreCountedAsPadding) {
   EXPECT_EQ(black.pixels, 0U);
   EXPECT_FALSE(black.firstPixel);
   EXPECT_EQ(black.paddingBits, 4U);
-  EXPECT_EQ(black.differentBands, 1U);
-  EXPECT_EQ(black.recodedBands, 0U);
+  EXPECT_EQ(black.different.count, 1U);
+  EXPECT_EQ(black.recoded.count, 0U);
   EXPECT_TRUE(difference.samePixels());
-  EXPECT_FALSE(difference.sameBits());
 }
 
 TEST(PageDifference, AByteCanHoldPixelsAndPadding) {
@@ -140,7 +143,7 @@ TEST(PageDifference, AShorterRowIsBlankBehindItsLastByte) {
     EXPECT_EQ(black.pixels, 1U);
     EXPECT_EQ(black.firstPixel, (PixelPlace{130, 0}));
     EXPECT_EQ(black.paddingBits, 1U);
-    EXPECT_EQ(black.differentBands, 1U);
+    EXPECT_EQ(black.different.count, 1U);
   }
 }
 
@@ -152,10 +155,9 @@ TEST(PageDifference, RowsThatOnePageLacksAreBlankInIt) {
   for (const PlaneDifference& black : {blackDifference(a, b), blackDifference(b, a)}) {
     EXPECT_EQ(black.pixels, 2U);
     EXPECT_EQ(black.firstPixel, (PixelPlace{8, 2}));
-    EXPECT_EQ(black.differentBands, 1U);
-    EXPECT_EQ(black.firstDifferentBand, 1U);
-    EXPECT_EQ(black.recodedBands, 1U);  // blank rows, but bytes
-    EXPECT_EQ(black.firstRecodedBand, 2U);
+    EXPECT_EQ(black.different.count, 1U);
+    EXPECT_EQ(black.different.first, 1U);
+    EXPECT_EQ(black.recoded.count, 0U);
   }
 }
 
@@ -166,12 +168,12 @@ TEST(PageDifference, APlaneThatOnePageLacksIsBlankInIt) {
   add(color, Ink::kCyan, {rowStartingWith({0x00, 0x3C})});
   add(color, Ink::kMagenta, {rowStartingWith({0x00})});
   const PageDifference difference = differenceOf(mono, color);
-  EXPECT_TRUE(difference.plane(Ink::kBlack).sameBytes());
+  expectSame(difference.plane(Ink::kBlack));
   EXPECT_EQ(difference.plane(Ink::kCyan).pixels, 4U);
   EXPECT_EQ(difference.plane(Ink::kCyan).firstPixel, (PixelPlace{10, 0}));
-  EXPECT_EQ(difference.plane(Ink::kMagenta).pixels, 0U);
-  EXPECT_EQ(difference.plane(Ink::kMagenta).recodedBands, 1U);
-  EXPECT_TRUE(difference.plane(Ink::kYellow).sameBytes());
+  EXPECT_EQ(difference.plane(Ink::kCyan).different.count, 0U);
+  expectSame(difference.plane(Ink::kMagenta));
+  expectSame(difference.plane(Ink::kYellow));
 }
 
 TEST(PageDifference, ALostBandIsBlankAndItsNeighboursAreStillEqual) {
@@ -184,9 +186,62 @@ TEST(PageDifference, ALostBandIsBlankAndItsNeighboursAreStillEqual) {
   const PlaneDifference black = blackDifference(a, b);
   EXPECT_EQ(black.pixels, 3U);
   EXPECT_EQ(black.firstPixel, (PixelPlace{5, 1}));
-  EXPECT_EQ(black.differentBands, 1U);
-  EXPECT_EQ(black.firstDifferentBand, 1U);
-  EXPECT_EQ(black.recodedBands, 0U);
+  EXPECT_EQ(black.different.count, 1U);
+  EXPECT_EQ(black.different.first, 1U);
+  EXPECT_EQ(black.decodedInA.count, 1U);
+  EXPECT_EQ(black.decodedInA.first, 1U);
+  EXPECT_EQ(black.decodedInB.count, 0U);
+  EXPECT_EQ(black.recoded.count, 0U);
+}
+
+TEST(PageDifference, ABandThatIsLostInOneAndBlankInTheOtherIsDecodedOnlyInThat) {
+  Page lost = blackPage(1, 96, {rowStartingWith({0x11})});
+  Page blank = lost;
+  planeOf(lost, Ink::kBlack).appendLost(1);
+  add(blank, Ink::kBlack, {rowStartingWith({0x00})});
+  PlaneDifference black = blackDifference(lost, blank);
+  EXPECT_EQ(black.decodedInB.count, 1U);
+  EXPECT_EQ(black.decodedInB.first, 1U);
+  black.decodedInB = {};
+  expectSame(black);
+  black = blackDifference(blank, lost);
+  EXPECT_EQ(black.decodedInA.count, 1U);
+  EXPECT_EQ(black.decodedInB.count, 0U);
+}
+
+TEST(PageDifference, BandsThatAreLostInBothAreComparedByTheirChecksums) {
+  const auto lostBand = [](const Bytes& bytes) {
+    reader::Checksum checksum;
+    checksum.add(bytes);
+    Page page = blackPage(1, 96, {rowStartingWith({0x11})});
+    planeOf(page, Ink::kBlack).appendLost(1, checksum);
+    return page;
+  };
+  expectSame(blackDifference(lostBand({1, 2}), lostBand({1, 2})));
+  PlaneDifference black = blackDifference(lostBand({1, 2}), lostBand({1, 3}));
+  EXPECT_EQ(black.lostOtherwise.count, 1U);
+  EXPECT_EQ(black.lostOtherwise.first, 1U);
+  black.lostOtherwise = {};
+  expectSame(black);
+}
+
+// A page whose record's bits a row are none that exist.
+TEST(PageDifference, APageWithoutPixelsIsComparedAllTheSame) {
+  Page none = pageWith(1, 1, 96);
+  none.rowBits = 0;
+  none.planes.fill(reader::StoredPlane(0, 1000));
+  planeOf(none, Ink::kBlack).appendLost(256);
+  ASSERT_EQ(none.widthPixels(), 0U);
+  const PageDifference same = differenceOf(none, none);
+  EXPECT_TRUE(same.samePixels());
+  expectSame(same.plane(Ink::kBlack));
+  const Page page = blackPage(1, 96, {rowStartingWith({0x11})});
+  for (const PlaneDifference& black : {blackDifference(none, page), blackDifference(page, none)}) {
+    EXPECT_EQ(black.pixels, 2U);
+    EXPECT_EQ(black.firstPixel, (PixelPlace{3, 0}));
+    EXPECT_EQ(black.paddingBits, 0U);
+    EXPECT_EQ(black.decodedInA.count + black.decodedInB.count, 1U);
+  }
 }
 
 TEST(PageDifference, RowsAreComparedWhereTheyStandWhateverTheirBands) {
@@ -195,19 +250,19 @@ TEST(PageDifference, RowsAreComparedWhereTheyStandWhateverTheirBands) {
   add(cut, Ink::kBlack, {rows[2]});
   const Page whole = blackPage(1, 96, rows);
   PlaneDifference black = blackDifference(cut, whole);
-  EXPECT_TRUE(black.sameBits());
-  EXPECT_EQ(black.recodedBands, 2U);
-  EXPECT_EQ(black.firstRecodedBand, 0U);
-  EXPECT_EQ(black.differentBands, 0U);
+  EXPECT_EQ(black.pixels, 0U);
+  EXPECT_EQ(black.paddingBits, 0U);
+  EXPECT_EQ(black.recoded.count, 1U);  // the other page has no second one
+  EXPECT_EQ(black.recoded.first, 0U);
+  EXPECT_EQ(black.different.count, 0U);
 
   const Page other = blackPage(1, 96, {rows[0], rowStartingWith({0x03}), rows[2]});
   black = blackDifference(cut, other);
   EXPECT_EQ(black.pixels, 1U);
   EXPECT_EQ(black.firstPixel, (PixelPlace{7, 1}));
-  EXPECT_EQ(black.differentBands, 1U);  // the second one has nothing but row 2
-  EXPECT_EQ(black.firstDifferentBand, 0U);
-  EXPECT_EQ(black.recodedBands, 1U);
-  EXPECT_EQ(black.firstRecodedBand, 1U);
+  EXPECT_EQ(black.different.count, 1U);  // the second one has nothing but row 2
+  EXPECT_EQ(black.different.first, 0U);
+  EXPECT_EQ(black.recoded.count, 0U);
 }
 
 TEST(PageDifference, PixelsOfDifferentBitsAreNotComparable) {
@@ -215,10 +270,8 @@ TEST(PageDifference, PixelsOfDifferentBitsAreNotComparable) {
                                                  blackPage(2, 20, {rowStartingWith({0x00})}));
   EXPECT_FALSE(difference.comparable);
   EXPECT_FALSE(difference.samePixels());
-  EXPECT_FALSE(difference.sameBits());
-  EXPECT_FALSE(difference.sameBytes());
   EXPECT_EQ(difference.plane(Ink::kBlack).pixels, 0U);
-  EXPECT_EQ(difference.plane(Ink::kBlack).differentBands, 0U);
+  EXPECT_EQ(difference.plane(Ink::kBlack).different.count, 0U);
 }
 
 }  // namespace

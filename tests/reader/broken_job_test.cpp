@@ -285,9 +285,9 @@ TEST(BrokenJob, NoChangedByteDoesHarm) {
       EXPECT_EQ(read.totals.bytes, whole.size()) << at;
       for (const Page& page : read.pages) {
         for (const StoredPlane& plane : page.planes) {
-          RowCursor cursor(plane);
+          PlaneRows planeRows(plane);
           std::uint32_t rows = 0;
-          while (!cursor.next().empty()) {
+          while (!planeRows.row(rows).empty()) {
             ++rows;
           }
           // Rows of no bytes cannot be gone through.

@@ -47,18 +47,19 @@ TEST(Page, ARowTooShortForItsPaddingHasNoPixels) {
   EXPECT_EQ(pageOf(16, 1, 0).widthPixels(), 0U);
 }
 
-TEST(StoredPlane, ACursorGivesTheRowsOfAllBandsAndThenNone) {
+TEST(StoredPlane, ItsRowsAreThoseOfAllBandsAndThenNone) {
   StoredPlane plane(16, 3);
   plane.append(2, jobtest::literalBand(jobtest::solidRows(2, 16, 0xAA), false));
   plane.append(1, jobtest::literalBand(jobtest::solidRows(1, 16, 0x55), false));
   EXPECT_EQ(plane.rows(), 3U);
-  RowCursor cursor(plane);
+  PlaneRows rows(plane);
+  std::uint32_t y = 0;
   for (const std::uint8_t byte : std::initializer_list<std::uint8_t>{0xAA, 0xAA, 0x55}) {
-    const auto row = cursor.next();
+    const auto row = rows.row(y++);
     EXPECT_EQ(jobtest::Bytes(row.begin(), row.end()), jobtest::Bytes(16, byte));
   }
-  EXPECT_TRUE(cursor.next().empty());
-  EXPECT_TRUE(cursor.next().empty());
+  EXPECT_TRUE(rows.row(3).empty());
+  EXPECT_TRUE(rows.row(0xFFFFFFFF).empty());
 }
 
 TEST(StoredPlane, ALostBandIsBlank) {
@@ -97,6 +98,54 @@ TEST(StoredPlane, LostRowsBeyondTheToldOnesAreNoMoreThanThoseThatArrived) {
   }
   EXPECT_LE(plane.rows(), 2000U);
   EXPECT_GE(plane.rows(), 1000U);
+}
+
+TEST(StoredPlane, ALostBandWhoseRowsAreUnknownHasItsIndexAllTheSame) {
+  const jobtest::Bytes band = jobtest::literalBand(jobtest::solidRows(1, 16, 0xAA), false);
+  StoredPlane plane(16, 3);
+  plane.append(1, band);
+  plane.appendLost(0);
+  plane.append(1, band);
+  plane.appendLost(0);
+  ASSERT_EQ(plane.bands().size(), 4U);
+  EXPECT_TRUE(plane.bands()[1].isLost());
+  EXPECT_FALSE(plane.bands()[2].isLost());
+  EXPECT_EQ(plane.rows(), 2U);
+  PlaneRows rows(plane);
+  const auto second = rows.row(1);
+  EXPECT_EQ(jobtest::Bytes(second.begin(), second.end()), jobtest::Bytes(16, 0xAA));
+  EXPECT_TRUE(rows.row(2).empty());
+}
+
+// Nothing of them is decoded here: any bytes will do.
+TEST(StoredPlane, ABandBeyondTheMostRowsIsLost) {
+  StoredPlane plane(16, 0);
+  for (int i = 0; i < 65535; ++i) {
+    ASSERT_TRUE(plane.append(256, {1}));
+  }
+  ASSERT_TRUE(plane.append(255, {1}));
+  EXPECT_FALSE(plane.append(2, {1}));
+  EXPECT_EQ(plane.rows(), 16'777'215U);
+  EXPECT_TRUE(plane.append(1, {1}));
+  EXPECT_EQ(plane.rows(), 16'777'216U);
+  EXPECT_FALSE(plane.append(256, {1}));
+  ASSERT_EQ(plane.bands().size(), 65539U);
+  EXPECT_TRUE(plane.bands()[65536].isLost());
+  EXPECT_FALSE(plane.bands()[65537].isLost());
+  EXPECT_TRUE(PlaneRows(plane).row(16'777'216).empty());
+}
+
+// Half of the rows are lost: the page has no room for the last band with those ahead of it.
+TEST(StoredPlane, LostRowsThatAreHeldBackCountAmongTheMostRows) {
+  StoredPlane plane(16, 0);
+  for (int i = 0; i < 32768; ++i) {
+    plane.appendLost(256);
+    ASSERT_TRUE(plane.append(256, {1}));
+  }
+  EXPECT_EQ(plane.rows(), 16'777'216U);
+  plane.appendLost(256);
+  EXPECT_FALSE(plane.append(1, {1}));
+  EXPECT_EQ(plane.rows(), 16'777'216U);
 }
 
 TEST(StoredPlane, MoreRowsThanABandHasWordsAreNotEvenTried) {

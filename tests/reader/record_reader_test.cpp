@@ -104,6 +104,61 @@ TEST(RecordReader, APrologueThatNamesTheTagIsNoJobRecord) {
   EXPECT_EQ(stepsOf(job).front().bytes, 10U);
 }
 
+// The first eight bytes of a band record, a page record and a host record.
+const std::vector<Bytes> kStartsOfOtherRecords{{'G', 'D', 'I', 'B', 0, 0, 0, 1},
+                                               {'G', 'D', 'I', 'P', 0, 0, 0, 64},
+                                               {'G', 'J', 'E', 'T', 0, 0, 0, 152}};
+
+TEST(RecordReader, APrologueMayHoldTheStartOfAnotherRecord) {
+  // As far behind it as the page record is long, so that the job record itself seems to follow it,
+  // directly, and at the end of what is looked at.
+  for (const std::size_t filler : std::initializer_list<std::size_t>{56, 0, 13, 144, 65535}) {
+    for (const Bytes& start : kStartsOfOtherRecords) {
+      JobBuilder job;
+      job.text("wake up").raw(start).text(std::string(filler, '.')).raw(blackJob().bytes());
+      EXPECT_EQ(walk(job), "jhpbe") << start[3] << filler;
+      EXPECT_EQ(stepsOf(job).front().bytes, 7U + 8 + filler);
+    }
+  }
+}
+
+TEST(RecordReader, APrologueMayHoldTheStartsOfManyRecords) {
+  JobBuilder job;
+  for (int i = 0; i < 1000; ++i) {
+    job.raw(kStartsOfOtherRecords[1]).raw(kStartsOfOtherRecords[0]).text("...");
+  }
+  EXPECT_EQ(walk(job.raw(blackJob().bytes())), "jhpbe");
+}
+
+TEST(RecordReader, AJobWithoutItsBeginningIsReadFromItsFirstRecord) {
+  const Bytes whole = blackJob().bytes();
+  const auto from = [&whole](std::ptrdiff_t offset) {
+    JobBuilder job;
+    job.text("...").raw(Bytes(whole.begin() + offset, whole.end()));
+    return job;
+  };
+  EXPECT_EQ(walk(from(120)), "h*pbe");
+  EXPECT_EQ(walk(from(272)), "p*be");
+  EXPECT_EQ(walk(from(336)), "b*e");
+}
+
+TEST(RecordReader, AJobWithoutItsBeginningIsNoPrologueOfTheJobBehindIt) {
+  const Bytes whole = blackJob().bytes();
+  for (const std::ptrdiff_t offset : {120, 272, 336}) {
+    JobBuilder job;
+    job.raw(Bytes(whole.begin() + offset, whole.end())).raw(whole);
+    const std::string letters = walk(job);
+    EXPECT_EQ(letters, offset == 120 ? "h*pbej*hpbe" : offset == 272 ? "p*bej*hpbe" : "b*ej*hpbe");
+  }
+}
+
+TEST(RecordReader, AJobRecordTooFarBehindAnotherRecordIsNotLookedFor) {
+  JobBuilder job;
+  job.raw(kStartsOfOtherRecords[1]).text(std::string(65537, '.')).raw(blackJob().bytes());
+  EXPECT_EQ(stepsOf(job).front().bytes, 0U);
+  EXPECT_EQ(walk(job).front(), 'p');
+}
+
 TEST(RecordReader, AJobWithoutPagesIsAPrologueAndTheEndMark) {
   JobBuilder job;
   EXPECT_EQ(walk(job.text("wake up\r\n").end()), "e");
@@ -145,6 +200,42 @@ TEST(RecordReader, ABandThatFailedToCompressHasNoPlaneAndNoData) {
   ASSERT_EQ(steps.size(), 6U);
   EXPECT_EQ(std::get<Band>(steps[4].record).ink, std::nullopt);
   EXPECT_TRUE(std::get<Band>(steps[4].record).data.empty());
+}
+
+// The check value of CRC-32 is that of these nine digits.
+TEST(RecordReader, WhatIsNoWholeRecordHasAChecksumOfAllItsBytes) {
+  JobBuilder prologue;
+  EXPECT_EQ(stepsOf(prologue.text("123456789").end()).at(0).checksum.value(), 0xCBF43926U);
+  JobBuilder gap = headers();
+  gap.text("123456789").pageRecord({});
+  EXPECT_EQ(stepsOf(gap).at(3).checksum.value(), 0xCBF43926U);
+  EXPECT_EQ(stepsOf(gap).at(3).checksum.bytes(), 9U);
+}
+
+TEST(RecordReader, TheChecksumOfALongPrologueIsOfAllItsBytes) {
+  Bytes bytes(70'000, '.');
+  const auto checksumOf = [](const Bytes& prologue) {
+    return stepsOf(JobBuilder().raw(prologue).jobRecord(1).hostRecord().end()).at(0).checksum;
+  };
+  Checksum whole;
+  whole.add(bytes);
+  EXPECT_EQ(checksumOf(bytes), whole);
+  for (const std::size_t at : std::initializer_list<std::size_t>{0, 65527, 65528, 65536, 69'999}) {
+    Bytes other = bytes;
+    other[at] = ',';
+    EXPECT_NE(checksumOf(other), whole) << at;
+  }
+}
+
+TEST(RecordReader, AStreamThatBreaksOffHasAChecksumOfWhatCame) {
+  JobBuilder band = headers();
+  band.pageRecord({}).bandRecord({.rows = 1}, 64).text("1234");
+  EXPECT_EQ(stepsOf(band).back().checksum.bytes(), 36U);
+  JobBuilder page = headers();
+  page.text("GDIP").text("1234");
+  Checksum whole;
+  whole.add(Bytes{'G', 'D', 'I', 'P', '1', '2', '3', '4'});
+  EXPECT_EQ(stepsOf(page).back().checksum, whole);
 }
 
 TEST(RecordReader, AnUnknownTagIsAGapUpToTheNextRecord) {

@@ -17,7 +17,14 @@
 namespace gdi::gdiview {
 
 // The name under which a difference of the prologues is ignored.
-inline constexpr char kPrologueName[] = "prologue";
+inline constexpr const char* kPrologueName = "prologue";
+
+// What is neither of a job's prologue nor of a page.
+struct OtherBytes {
+  std::uint64_t count = 0;
+  std::uint32_t pages = 0;    // of the job
+  reader::Checksum checksum;  // of OtherSteps, but for what frames() compares
+};
 
 class DifferenceLines {
  public:
@@ -28,7 +35,7 @@ class DifferenceLines {
       : ignored_(std::move(ignored)), out_(out), beforeLine_(std::move(beforeLine)) {}
 
   void prologues(const reader::JobReader& a, const reader::JobReader& b);
-  // The first job record of each, and the first host record.
+  // The first job record of each job and its first host record, as far as they have been read.
   void frames(const reader::JobReader& a, const reader::JobReader& b);
   // The page records and the band records of two pages.
   void headers(const reader::Page& a, const reader::Page& b);
@@ -36,8 +43,8 @@ class DifferenceLines {
   void bands(const reader::Page& a, const reader::Page& b, const PageDifference& difference);
   // job: "A" or "B"
   void onlyIn(const char* job, const reader::Page& page);
-  // Bytes of either job that are neither of its prologue nor of a page.
-  void otherBytes(std::uint64_t a, std::uint64_t b);
+  // Of both jobs at their end.
+  void otherBytes(const OtherBytes& a, const OtherBytes& b);
 
   // There was something to tell.
   [[nodiscard]] bool found() const { return found_; }
@@ -47,7 +54,14 @@ class DifferenceLines {
   // A record that a job may lack: it is empty then.
   void record(const std::string& record, reader::RecordKind kind, std::span<const std::uint8_t> a,
               std::span<const std::uint8_t> b);
-  void bandHeaders(const std::string& page, const reader::Page& a, const reader::Page& b);
+  class FieldCounts;  // of the fields in which a page's band records differ
+
+  void bandRecords(const reader::Page& a, const reader::Page& b);
+  void bandRecord(const std::string& name, const reader::BandOnPage& a, const reader::BandOnPage& b,
+                  FieldCounts& counts) const;
+  // How many bands of a kind the pages have.
+  void bandCounts(const std::string& where, const char* what, std::size_t a, std::size_t b);
+  void strayBytes(const reader::Page& a, const reader::Page& b);
   void plane(const std::string& plane, const PlaneDifference& difference);
   void line(const std::string& where, const std::string& what);
 

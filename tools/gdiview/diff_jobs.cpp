@@ -5,11 +5,13 @@
 
 #include <algorithm>
 #include <sstream>
+#include <utility>
 
 #include "reader/JobReader.h"
 #include "tools/gdiview/DifferenceLines.h"
 #include "tools/gdiview/DifferencePainter.h"
 #include "tools/gdiview/FindingLines.h"
+#include "tools/gdiview/OtherSteps.h"
 #include "tools/gdiview/page_difference.h"
 #include "tools/gdiview/picture_file.h"
 #include "tools/gdiview/record_fields.h"
@@ -26,6 +28,7 @@ class Side {
   Side(JobInput& input, const DiffOptions& options, Progress& progress, std::ostream& errors)
       : name_(input.name()),
         errors_(errors),
+        others_(options.ignored),
         lines_(errors, input.name()),
         job_(
             input.stream(),
@@ -33,21 +36,24 @@ class Side {
               progress.clear();
               lines_.tell(finding);
             },
-            options.prologueBytes) {}
+            options.prologueBytes, [this](const reader::RecordStep& step) { addOther(step); }) {}
 
   // Reads the next page; there is none in page() when there are no more.
   void nextPage() {
     page_ = job_.nextPage();
+    begun_ = true;
     if (page_) {
       bytesOfPages_ += lengthOf(RecordKind::kPage) + page_->compressedBytes +
-                       lengthOf(RecordKind::kBand) * page_->bandHeaders.size();
+                       lengthOf(RecordKind::kBand) * page_->bandRecords.size() +
+                       page_->strayBytes.bytes();
     }
   }
   [[nodiscard]] const std::optional<reader::Page>& page() const { return page_; }
   [[nodiscard]] const reader::JobReader& job() const { return job_; }
   // Of the job, which has been read to its end, all that is not of its prologue or of a page.
-  [[nodiscard]] std::uint64_t otherBytes() const {
-    return job_.totals().bytes - job_.prologueBytes() - bytesOfPages_;
+  [[nodiscard]] OtherBytes otherBytes() const {
+    return {job_.totals().bytes - job_.prologueBytes() - bytesOfPages_, job_.totals().pages,
+            others_.checksum()};
   }
   // False, with a line, when it is no job stream or could not be read on.
   [[nodiscard]] bool isReadable() const {
@@ -55,8 +61,22 @@ class Side {
   }
 
  private:
+  // The records that DifferenceLines::frames() compares stay out.
+  void addOther(const reader::RecordStep& step) {
+    bool& seen = std::holds_alternative<reader::JobRecord>(step.record) ? seenJob_ : seenHost_;
+    const bool isFrame = std::holds_alternative<reader::JobRecord>(step.record) ||
+                         std::holds_alternative<reader::HostRecord>(step.record);
+    if (!isFrame || std::exchange(seen, true) || begun_) {
+      others_.add(step, job_.totals().pages);
+    }
+  }
+
   std::string name_;
   std::ostream& errors_;
+  bool begun_ = false;  // the first page has come, if there is one
+  bool seenJob_ = false;
+  bool seenHost_ = false;
+  OtherSteps others_;
   FindingLines lines_;
   reader::JobReader job_;
   std::optional<reader::Page> page_;

@@ -3,6 +3,7 @@
 
 #include "tools/gdiview/header_difference.h"
 
+#include <algorithm>
 #include <array>
 
 #include "tools/gdiview/record_fields.h"
@@ -95,6 +96,20 @@ std::vector<HeaderDifference> differenceOfHeaders(reader::RecordKind kind,
   }
   addZeroFields(zeroFieldsOf(kind), a, b, differences);
   return differences;
+}
+
+// A byte belongs to the field that differs when the byte does.
+std::vector<bool> bytesOfFields(reader::RecordKind kind, std::span<const std::string> names) {
+  const std::vector<std::uint8_t> zeros(reader::lengthOf(kind));
+  std::vector<bool> belong(zeros.size());
+  for (std::size_t at = 0; at < zeros.size() && !names.empty(); ++at) {
+    std::vector<std::uint8_t> other = zeros;
+    other[at] = 1;
+    for (const HeaderDifference& difference : differenceOfHeaders(kind, zeros, other)) {
+      belong[at] = belong[at] || std::ranges::count(names, difference.name) != 0;
+    }
+  }
+  return belong;
 }
 
 }  // namespace gdi::gdiview

@@ -24,4 +24,7 @@ std::vector<HeaderDifference> differenceOfHeaders(reader::RecordKind kind,
                                                   std::span<const std::uint8_t> a,
                                                   std::span<const std::uint8_t> b);
 
+// Which bytes of a record belong to these fields, texts with the padding behind them.
+std::vector<bool> bytesOfFields(reader::RecordKind kind, std::span<const std::string> names);
+
 }  // namespace gdi::gdiview

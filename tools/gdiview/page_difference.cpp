@@ -62,8 +62,15 @@ class PlaneComparison {
   // Afterwards all rows down to the end of both bands have been compared or are known to be equal.
   void compareBands(std::size_t index) {
     static const Band kNone;
+    const bool both = index < a_.bands().size() && index < b_.bands().size();
     const Band& a = index < a_.bands().size() ? a_.bands()[index] : kNone;
     const Band& b = index < b_.bands().size() ? b_.bands()[index] : kNone;
+    const auto number = static_cast<std::uint32_t>(index);
+    if (both && a.isLost() != b.isLost()) {
+      (a.isLost() ? difference_.decodedInB : difference_.decodedInA).add(number);
+    } else if (both && a.lost != b.lost) {
+      difference_.lostOtherwise.add(number);
+    }
     const Range rowsOfA{a.firstRow, a.firstRow + a.rows};
     const Range rowsOfB{b.firstRow, b.firstRow + b.rows};
     const std::uint32_t end = std::max(rowsOfA.end, rowsOfB.end);
@@ -76,13 +83,13 @@ class PlaneComparison {
     for (; y_ < end; ++y_) {
       compareRow();
     }
-    const auto number = static_cast<std::uint32_t>(index);
+    const bool oneLacksThePlane = a_.bands().empty() || b_.bands().empty();
     if (anyDifferent(rowsOfA) || anyDifferent(rowsOfB)) {
-      ++difference_.differentBands;
-      difference_.firstDifferentBand = difference_.firstDifferentBand.value_or(number);
-    } else if (!sameBytes) {
-      ++difference_.recodedBands;
-      difference_.firstRecodedBand = difference_.firstRecodedBand.value_or(number);
+      if (!oneLacksThePlane) {
+        difference_.different.add(number);
+      }
+    } else if (both && !sameBytes && !a.isLost() && !b.isLost()) {
+      difference_.recoded.add(number);
     }
   }
 
@@ -141,16 +148,6 @@ class PlaneComparison {
 bool PageDifference::samePixels() const {
   return comparable && std::all_of(planes.begin(), planes.end(),
                                    [](const PlaneDifference& plane) { return plane.pixels == 0; });
-}
-
-bool PageDifference::sameBits() const {
-  return comparable && std::all_of(planes.begin(), planes.end(),
-                                   [](const PlaneDifference& plane) { return plane.sameBits(); });
-}
-
-bool PageDifference::sameBytes() const {
-  return comparable && std::all_of(planes.begin(), planes.end(),
-                                   [](const PlaneDifference& plane) { return plane.sameBytes(); });
 }
 
 PageDifference differenceOf(const reader::Page& a, const reader::Page& b) {

@@ -2,12 +2,12 @@
 // SPDX-License-Identifier: Apache-2.0
 
 // Where two pages differ, plane by plane: in their pixels, in their padding or in their coding
-// alone.
+// alone, or in what does not decode.
 //
-// Every difference of band data is told by one of the three. Rows are compared bit by bit where
-// they stand on the page, whatever bands they come from. What one page lacks, be it a plane, a row
-// or the end of a row's bytes, is blank in it. In the narrower page the pixels between both widths
-// are what its rows hold there.
+// Every difference of the data of a band that both have is told by one of these. Rows are compared
+// bit by bit where they stand on the page, whatever bands they come from. What one page lacks, be
+// it a plane, a row or the end of a row's bytes, is blank in it. In the narrower page the pixels
+// between both widths are what its rows hold there.
 #pragma once
 
 #include <array>
@@ -24,18 +24,28 @@ struct PixelPlace {
   friend bool operator==(const PixelPlace&, const PixelPlace&) = default;
 };
 
-// Bands are counted by their index in the plane, from 0 on top.
+// How many bands of a plane are so, and the first of them by its index in the plane, from 0 on top.
+struct BandCount {
+  std::uint32_t count = 0;
+  std::optional<std::uint32_t> first;
+
+  void add(std::uint32_t band) {
+    ++count;
+    first = first.value_or(band);
+  }
+};
+
 struct PlaneDifference {
   std::uint64_t pixels = 0;              // that differ, in the width of the wider page
   std::optional<PixelPlace> firstPixel;  // the leftmost in the topmost row that has any
   std::uint64_t paddingBits = 0;         // that differ right of that width
-  std::uint32_t recodedBands = 0;        // with other bytes for the same bits
-  std::optional<std::uint32_t> firstRecodedBand;
-  std::uint32_t differentBands = 0;  // with a row that differs in a pixel or in its padding
-  std::optional<std::uint32_t> firstDifferentBand;
-
-  [[nodiscard]] bool sameBits() const { return pixels == 0 && paddingBits == 0; }
-  [[nodiscard]] bool sameBytes() const { return sameBits() && recodedBands == 0; }
+  // With a row that differs in a pixel or in its padding; not counted where a page lacks the plane.
+  BandCount different;
+  BandCount recoded;  // with other bytes for the same bits
+  // Decoded in one page, and lost in the other.
+  BandCount decodedInA;
+  BandCount decodedInB;
+  BandCount lostOtherwise;  // lost in both, with other bytes
 };
 
 struct PageDifference {
@@ -46,10 +56,8 @@ struct PageDifference {
   [[nodiscard]] const PlaneDifference& plane(reader::Ink ink) const {
     return planes[reader::indexOf(ink)];
   }
-  // No pixel, no bit of the rows or no byte of the bands differs; false when not comparable.
+  // No pixel differs; false when not comparable.
   [[nodiscard]] bool samePixels() const;
-  [[nodiscard]] bool sameBits() const;
-  [[nodiscard]] bool sameBytes() const;
 };
 
 // Holds one decoded band of each page at a time, and decodes no band that is the same in both.
