@@ -59,7 +59,7 @@ const std::string kPageLines =
     "  number              0 (from 0)\n"
     "  bands               1 (a plane, sometimes one too many)\n"
     "  page_width          4064 µm (4.1 mm)\n"
-    "  page_length         85 µm (0.1 mm)\n";
+    "  page_length         85 µm (0.085 mm)\n";
 
 const std::string kBandLine =
     "offset 342: band record, page 1, black band 0: flags 3 (first of its plane, last of the "
@@ -67,7 +67,8 @@ const std::string kBandLine =
     "black_bytes 64, row_bits 128, rows 2, page_blank 0, 200.0 % of 32 bytes\n";
 
 const std::string kPageSummary =
-    "page 1: A4, 1 plane of 1 bit (Fast), 96 x 2 pixels, rows of 128 bits, not blank\n"
+    "page 1: A4, 4.1 x 0.085 mm, 1 plane of 1 bit (Fast), 96 x 2 pixels, rows of 128 bits, not "
+    "blank\n"
     "  black: 1 band, 2 rows, 64 bytes\n"
     "  compressed: 64 bytes, 200.0 % of 32; the largest is black band 0 with 64 bytes\n";
 
@@ -80,7 +81,7 @@ class InfoJob : public testing::Test {
 
   int run(std::istream& stream) {
     JobInput input(stream, "JOB");
-    return infoJob(input, options_, out_, errors_);
+    return infoJob(input, options_, progress_, out_, errors_);
   }
   int run(const JobBuilder& job) {
     std::istringstream stream = job.stream();
@@ -90,6 +91,7 @@ class InfoJob : public testing::Test {
   InfoOptions options_;
   std::ostringstream out_;
   std::ostringstream errors_;
+  Progress progress_{errors_, false};
 };
 
 TEST_F(InfoJob, EveryRecordIsToldFieldByFieldThenThePageAndTheJob) {
@@ -107,6 +109,59 @@ TEST_F(InfoJob, APrologueOfUnknownLengthIsSearchedForItsEnd) {
   options_.prologueBytes.reset();
   EXPECT_EQ(run(onePage()), kSound);
   EXPECT_EQ(out_.str().find("offset 0: prologue, 6 bytes, found by searching for a record\n"), 0U);
+}
+
+TEST_F(InfoJob, ThatThereIsNoPrologueIsToldAsSuch) {
+  options_.prologueBytes.reset();
+  EXPECT_EQ(run(twoPages()), kSound);
+  EXPECT_EQ(out_.str().find("offset 0: no prologue\noffset 0: job record, "), 0U);
+}
+
+// The band's data are bytes of no code word: nobody knows whether it had ink.
+TEST_F(InfoJob, APageWithALostBandIsNotCalledBlank) {
+  options_.page = 1;
+  options_.summary = true;
+  JobBuilder job;
+  job.jobRecord(1).hostRecord().pageRecord({.rows = 2, .heightMicrometres = 85});
+  job.band({.flags = jobtest::kFirst | jobtest::kLast, .rows = 2}, Bytes(16, 0x55)).end();
+  EXPECT_EQ(run(job), kFaulty);
+  EXPECT_NE(out_.str().find(", no ink in what can be read\n"), std::string::npos);
+  EXPECT_NE(out_.str().find("; 1 band lost\n"), std::string::npos);
+}
+
+TEST_F(InfoJob, JsonCallsAPageBlankOnlyWhenAllOfItWasRead) {
+  options_.json = true;
+  JobBuilder whole = jobtest::jobOf({.blank = true});
+  EXPECT_EQ(run(whole), kSound);
+  EXPECT_NE(out_.str().find(R"("blank":true)"), std::string::npos);
+  out_.str("");
+  JobBuilder cut = onePage();
+  cut.bytes().resize(kBandOffset + 32 + 10);
+  EXPECT_EQ(run(cut), kFaulty);
+  EXPECT_NE(out_.str().find(R"("blank":false)"), std::string::npos);
+}
+
+TEST_F(InfoJob, JsonHasAPagesSizeOnPaperAndWhatIsToBeKnownOfAField) {
+  options_.json = true;
+  EXPECT_EQ(run(onePage()), kSound);
+  EXPECT_NE(out_.str().find(R"("media":"A4","page_width":4064,"page_length":85,)"),
+            std::string::npos);
+  EXPECT_NE(out_.str().find(R"("rows":{"value":2,"note":"the low 16 bits"})"), std::string::npos);
+  EXPECT_NE(
+      out_.str().find(R"("color_flag":{"value":0,"note":"tells nothing: 0 in colour jobs too"})"),
+      std::string::npos);
+}
+
+// Nothing is written to a terminal that there is not; the line would stand among the records.
+TEST_F(InfoJob, ATerminalSeesHowMuchHasBeenRead) {
+  Progress::Time now;
+  Progress progress(errors_, true, 442, [&now] { return now += std::chrono::seconds(2); });
+  std::istringstream stream = onePage().stream();
+  JobInput input(stream, "JOB");
+  EXPECT_EQ(infoJob(input, options_, progress, out_, errors_), kSound);
+  EXPECT_NE(errors_.str().find("\rgdiview: page 1, "), std::string::npos);
+  EXPECT_EQ(errors_.str().back(), '\r');
+  EXPECT_EQ(out_.str().find('\r'), std::string::npos);
 }
 
 TEST_F(InfoJob, TheSummariesAloneHaveNoRecords) {
@@ -135,13 +190,15 @@ TEST_F(InfoJob, AColourPageHasALineForEachPlane) {
   options_.page = 2;
   options_.summary = true;
   EXPECT_EQ(run(twoPages()), kSound);
-  EXPECT_EQ(out_.str(),
-            "page 2: A4, 4 planes of 1 bit (Fast), 96 x 1 pixels, rows of 128 bits, not blank\n"
-            "  cyan: 1 band, 1 row, 32 bytes\n"
-            "  magenta: 1 band, 1 row, 32 bytes\n"
-            "  yellow: 1 band, 1 row, 32 bytes\n"
-            "  black: 1 band, 1 row, 32 bytes\n"
-            "  compressed: 128 bytes, 200.0 % of 64; the largest is black band 0 with 32 bytes\n");
+  EXPECT_EQ(
+      out_.str(),
+      "page 2: A4, 4.1 x 0.042 mm, 4 planes of 1 bit (Fast), 96 x 1 pixels, rows of 128 bits, not "
+      "blank\n"
+      "  cyan: 1 band, 1 row, 32 bytes\n"
+      "  magenta: 1 band, 1 row, 32 bytes\n"
+      "  yellow: 1 band, 1 row, 32 bytes\n"
+      "  black: 1 band, 1 row, 32 bytes\n"
+      "  compressed: 128 bytes, 200.0 % of 64; the largest is black band 0 with 32 bytes\n");
 }
 
 TEST_F(InfoJob, ABlankPageIsToldAndThatItIsFlagged) {
@@ -150,9 +207,11 @@ TEST_F(InfoJob, ABlankPageIsToldAndThatItIsFlagged) {
   jobtest::SoundPage page;
   page.blank = true;
   EXPECT_EQ(run(jobtest::jobOf(page)), kSound);
-  EXPECT_EQ(out_.str().find("page 1: A4, 1 plane of 1 bit (Fast), 96 x 2 pixels, rows of 128 bits, "
-                            "blank, flagged as blank\n"),
-            0U);
+  EXPECT_EQ(
+      out_.str().find(
+          "page 1: A4, 4.1 x 0.085 mm, 1 plane of 1 bit (Fast), 96 x 2 pixels, rows of 128 bits, "
+          "blank, flagged as blank\n"),
+      0U);
 }
 
 TEST_F(InfoJob, APageThatIsNotThereIsToldAndNothingIsPrinted) {
@@ -171,8 +230,9 @@ TEST_F(InfoJob, AJobThatBreaksOffInABandIsToldUpToThere) {
             "offset 0: prologue, 6 bytes, as long as Info.plist says\n"
             "  \"\\x1b%P\\\"\\r\\n\"\n" +
                 kJobLines + kPageLines +
-                "page 1: A4, 1 plane of 1 bit (Fast), 96 x 0 pixels, rows of 128 bits, blank, "
-                "broken off\n"
+                "page 1: A4, 4.1 x 0.085 mm, 1 plane of 1 bit (Fast), 96 x 0 pixels, rows of 128 "
+                "bits, no "
+                "ink in what can be read, broken off\n"
                 "  black: 0 bands, 0 rows, 0 bytes\n"
                 "  compressed: 0 bytes, of nothing\n"
                 "offset 342: the stream ends after 10 of the black band's 64 bytes\n" +

@@ -183,12 +183,12 @@ TEST_F(PngJob, OfManyViolationsTheFirstTwentyAreTold) {
             std::string::npos);
 }
 
-TEST_F(PngJob, ANoteIsToldAndLeavesTheStatusAt0) {
+TEST_F(PngJob, ANoteIsLeftToCheck) {
   JobBuilder job;
   job.jobRecord(1).hostRecord().pageRecord({.rows = 257, .heightMicrometres = 10880});
   job.band(Ink::kBlack, kFirst, jobtest::Rows(256, rowOf(0xFF))).end();
   EXPECT_EQ(run(job), kSound);
-  EXPECT_EQ(errors_.str().find("gdiview: JOB: offset 272: page 1: note steps-left-out: "), 0U);
+  EXPECT_EQ(errors_.str(), "");
   EXPECT_EQ(picture("page-1").height, 256U);
 }
 
@@ -240,16 +240,70 @@ TEST_F(PngJob, APictureThatCannotBeWrittenIsToldWithItsName) {
   EXPECT_EQ(errors_.str(), "gdiview: " + pathOf("page-1") + ": Is a directory\n");
 }
 
-// The line is there while the first page is painted and gone ahead of its line.
-TEST_F(PngJob, ATerminalSeesHowFarTheJobHasBeenRead) {
+// The record behind a page is read before the page is known to be over: 496 of 756 bytes are page
+// 1's, in two rows, and 256 page 2's, in one. The line is gone ahead of each page's line.
+TEST_F(PngJob, ATerminalSeesHowMuchIsPainted) {
   Progress::Time now;
   Progress progress(lines_, true, 756, [&now] { return now += std::chrono::seconds(2); });
   std::istringstream stream = twoPages().stream();
   JobInput input(stream, "JOB");
   EXPECT_EQ(pngJob(input, options_, progress, lines_, errors_), kSound);
-  // The record behind a page is read before the page is known to be over.
-  EXPECT_EQ(lines_.str().find("\rgdiview: page 1, 65 %\r" + std::string(21, ' ') + "\rpage 1: "),
-            0U);
+  const std::string wiped = "\r" + std::string(21, ' ') + "\r";
+  EXPECT_EQ(
+      lines_.str().find("\rgdiview: page 1, 0 %\rgdiview: page 1, 32 %\rgdiview: page 1, 65 %" +
+                        wiped + "page 1: "),
+      0U);
+  EXPECT_NE(
+      lines_.str().find("\rgdiview: page 2, 65 %\rgdiview: page 2, 99 %" + wiped + "page 2: "),
+      std::string::npos);
+}
+
+// A page's two pictures of two rows each are four parts of its 496 bytes.
+TEST_F(PngJob, ThePlanesPicturesCountAsTheOtherOnes) {
+  Progress::Time now;
+  Progress progress(lines_, true, 756, [&now] { return now += std::chrono::seconds(2); });
+  options_.planes = true;
+  options_.page = 1;
+  std::istringstream stream = twoPages().stream();
+  JobInput input(stream, "JOB");
+  EXPECT_EQ(pngJob(input, options_, progress, lines_, errors_), kSound);
+  EXPECT_NE(lines_.str().find("\rgdiview: page 1, 16 %\rgdiview: page 1, 32 %\r"),
+            std::string::npos);
+  EXPECT_NE(lines_.str().find("\rgdiview: page 1, 49 %\rgdiview: page 1, 65 %\r"),
+            std::string::npos);
+}
+
+// The paper is 0.32 inches wide and 0.8 long: 96 x 240 pixels at 300 dots an inch, 11811 a metre.
+TEST_F(PngJob, APageOfAnotherResolutionSaysItsOwn) {
+  JobBuilder job;
+  job.jobRecord(1).hostRecord();
+  job.pageRecord({.rows = 240, .widthMicrometres = 8128, .heightMicrometres = 20320});
+  job.band(Ink::kBlack, kFirst | kLast, jobtest::Rows(240, rowOf(0xFF)));
+  EXPECT_EQ(run(job.end()), kSound);
+  EXPECT_EQ(picture("page-1").samplesPerMetre, 11811U);
+}
+
+TEST_F(PngJob, APictureSaysAtLeastOneSampleAMetre) {
+  options_.reduction = 100000;
+  EXPECT_EQ(run(twoPages()), kSound);
+  EXPECT_EQ(picture("page-1").samplesPerMetre, 1U);
+}
+
+TEST_F(PngJob, WhatHasNoPictureLeavesNoFolder) {
+  std::istringstream stream("%PDF-1.7\n");
+  EXPECT_EQ(run(stream, lines_), kUnusable);
+  JobBuilder job;
+  EXPECT_EQ(run(job.jobRecord(1).hostRecord().end()), kSound);
+  EXPECT_FALSE(std::filesystem::exists(options_.folder));
+}
+
+TEST_F(PngJob, ANameWithALineFeedStaysInItsLine) {
+  JobBuilder job = twoPages();
+  job.bytes().resize(kEndOffset);
+  std::istringstream stream = job.stream();
+  JobInput input(stream, "a\nb");
+  EXPECT_EQ(pngJob(input, options_, progress_, lines_, errors_), kFaulty);
+  EXPECT_EQ(errors_.str().find("gdiview: a\\nb: offset 752: "), 0U);
 }
 
 }  // namespace
