@@ -52,7 +52,7 @@ std::string faultOf(CommandParser& parser, const CLI::ParseError& error) {
   if (dynamic_cast<const CLI::ExtrasError*>(&error) != nullptr && !left.empty()) {
     return left.front() + " is one word too many";
   }
-  const std::string text = error.what();
+  std::string text = error.what();
   if (dynamic_cast<const CLI::ArgumentMismatch*>(&error) != nullptr) {
     const std::string name = text.substr(0, text.find(':'));
     return name + (text.ends_with("missing") ? " needs a value" : " may be given once");
