@@ -1,32 +1,18 @@
 // SPDX-FileCopyrightText: 2026 The rasterToGDI authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "tools/gdiview/info_job.h"
-
 #include <sstream>
 #include <string>
 
 #include <gtest/gtest.h>
 
-#include "tests/gdiview/small_jobs.h"
-#include "tests/jobs/sound_page.h"
+#include "tests/gdiview/info_job_fixture.h"
 
 namespace gdi::gdiview {
 namespace {
 
 using jobtest::Bytes;
 using jobtest::JobBuilder;
-
-constexpr char kPrologue[] = "\x1b%P\"\r\n";
-constexpr std::size_t kPrologueBytes = 6;
-constexpr std::size_t kBandOffset = 342;  // 6 + 120 + 152 + 64
-
-// One black page of 96 x 2 pixels whose band has 64 bytes: 442 bytes in all.
-JobBuilder onePage() {
-  JobBuilder job;
-  job.text(kPrologue).jobRecord(1).hostRecord();
-  return jobtest::addPage(job, {}).end();
-}
 
 const std::string kJobLines =
     "offset 6: job record, 120 bytes\n"
@@ -75,25 +61,6 @@ const std::string kPageSummary =
 const std::string kJobLine =
     "job: 1 page, 3 copies, \"Report\", 2026-11-15 21:54:36, host \"desk\", user \"anna\"\n";
 
-class InfoJob : public testing::Test {
- protected:
-  InfoJob() { options_.prologueBytes = kPrologueBytes; }
-
-  int run(std::istream& stream) {
-    JobInput input(stream, "JOB");
-    return infoJob(input, options_, progress_, out_, errors_);
-  }
-  int run(const JobBuilder& job) {
-    std::istringstream stream = job.stream();
-    return run(stream);
-  }
-
-  InfoOptions options_;
-  std::ostringstream out_;
-  std::ostringstream errors_;
-  Progress progress_{errors_, false};
-};
-
 TEST_F(InfoJob, EveryRecordIsToldFieldByFieldThenThePageAndTheJob) {
   EXPECT_EQ(run(onePage()), kSound);
   EXPECT_EQ(errors_.str(), "");
@@ -127,29 +94,6 @@ TEST_F(InfoJob, APageWithALostBandIsNotCalledBlank) {
   EXPECT_EQ(run(job), kFaulty);
   EXPECT_NE(out_.str().find(", no ink in what can be read\n"), std::string::npos);
   EXPECT_NE(out_.str().find("; 1 band lost\n"), std::string::npos);
-}
-
-TEST_F(InfoJob, JsonCallsAPageBlankOnlyWhenAllOfItWasRead) {
-  options_.json = true;
-  JobBuilder whole = jobtest::jobOf({.blank = true});
-  EXPECT_EQ(run(whole), kSound);
-  EXPECT_NE(out_.str().find(R"("blank":true)"), std::string::npos);
-  out_.str("");
-  JobBuilder cut = onePage();
-  cut.bytes().resize(kBandOffset + 32 + 10);
-  EXPECT_EQ(run(cut), kFaulty);
-  EXPECT_NE(out_.str().find(R"("blank":false)"), std::string::npos);
-}
-
-TEST_F(InfoJob, JsonHasAPagesSizeOnPaperAndWhatIsToBeKnownOfAField) {
-  options_.json = true;
-  EXPECT_EQ(run(onePage()), kSound);
-  EXPECT_NE(out_.str().find(R"("media":"A4","page_width":4064,"page_length":85,)"),
-            std::string::npos);
-  EXPECT_NE(out_.str().find(R"("rows":{"value":2,"note":"the low 16 bits"})"), std::string::npos);
-  EXPECT_NE(
-      out_.str().find(R"("color_flag":{"value":0,"note":"tells nothing: 0 in colour jobs too"})"),
-      std::string::npos);
 }
 
 // Nothing is written to a terminal that there is not; the line would stand among the records.
@@ -269,15 +213,6 @@ TEST_F(InfoJob, AnInputThatCannotBeReadOnIsToldWithWhatWasRead) {
   EXPECT_EQ(errors_.str(), "gdiview: JOB: the input cannot be read beyond offset 384\n");
   EXPECT_NE(out_.str().find(kPageLines + "page 1: "), std::string::npos);
   EXPECT_NE(out_.str().find("\noffset 342: the input cannot be read on\n"), std::string::npos);
-}
-
-TEST_F(InfoJob, AnInputThatCannotBeReadOnIsToldInJsonToo) {
-  options_.json = true;
-  Bytes bytes = onePage().bytes();
-  bytes.resize(kBandOffset + 32 + 10);
-  FailingInput stream(bytes);
-  EXPECT_EQ(run(stream), kUnusable);
-  EXPECT_NE(out_.str().find(R"("text":"the input cannot be read on")"), std::string::npos);
 }
 
 TEST_F(InfoJob, AnInputThatCannotBeReadAtAllPrintsNothing) {
