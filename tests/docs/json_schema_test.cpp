@@ -41,7 +41,8 @@ std::string infoOf(const JobBuilder& job, InfoOptions options = {},
   options.json = true;
   std::ostringstream out;
   std::ostringstream errors;
-  infoJob(input, options, out, errors);
+  Progress progress(errors, false);
+  infoJob(input, options, progress, out, errors);
   EXPECT_EQ(errors.str(), "");
   return out.str();
 }

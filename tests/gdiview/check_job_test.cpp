@@ -22,7 +22,7 @@ class CheckJob : public testing::Test {
  protected:
   int run(std::istream& stream, std::ostream& out) {
     JobInput input(stream, "JOB");
-    return checkJob(input, options_, out, errors_);
+    return checkJob(input, options_, progress_, out, errors_);
   }
   int run(const JobBuilder& job) {
     std::istringstream stream = job.stream();
@@ -36,6 +36,7 @@ class CheckJob : public testing::Test {
   CheckOptions options_;
   std::ostringstream lines_;
   std::ostringstream errors_;
+  Progress progress_{errors_, false};
 };
 
 // Its page has no ink and does not say so.
@@ -57,6 +58,27 @@ TEST_F(CheckJob, ASoundJobIsOneLine) {
   EXPECT_EQ(run(jobtest::jobOf({})), kSound);
   EXPECT_EQ(lines_.str(), "JOB: 1 page, 1 band, 0 violations, 0 notes\n");
   EXPECT_EQ(errors_.str(), "");
+}
+
+TEST_F(CheckJob, ANameWithALineFeedStaysInItsLine) {
+  std::istringstream stream = jobWithAViolation().stream();
+  JobInput input(stream, "a\nb");
+  EXPECT_EQ(checkJob(input, options_, progress_, lines_, errors_), kFaulty);
+  EXPECT_EQ(lines_.str(),
+            "a\\nb: offset 364: page 1, black band 0: zero-field: byte 28 is 1, not 0\n"
+            "a\\nb: 2 pages, 5 bands, 1 violation, 0 notes\n");
+}
+
+// The progress line is gone ahead of each line, and at the end.
+TEST_F(CheckJob, ATerminalSeesHowMuchHasBeenRead) {
+  Progress::Time now;
+  Progress progress(lines_, true, 756, [&now] { return now += std::chrono::seconds(2); });
+  std::istringstream stream = jobWithAViolation().stream();
+  JobInput input(stream, "JOB");
+  EXPECT_EQ(checkJob(input, options_, progress, lines_, errors_), kFaulty);
+  EXPECT_NE(lines_.str().find(" \r" + std::string(kViolation)), std::string::npos);
+  EXPECT_NE(lines_.str().find("\rgdiview: page 2, "), std::string::npos);
+  EXPECT_NE(lines_.str().find(" \rJOB: 2 pages, 5 bands, "), std::string::npos);
 }
 
 TEST_F(CheckJob, PagesAndBandsAreCounted) {

@@ -4,6 +4,7 @@
 // gdiview as the build runs it: its words, its exit status and where its lines go.
 
 #include <algorithm>
+#include <cctype>
 #include <cstdio>
 #include <filesystem>
 #include <string>
@@ -81,12 +82,102 @@ TEST_F(CommandLineOfGdiview, AUsageErrorIsOneLineAndExitsWith2) {
   EXPECT_FALSE(std::filesystem::exists(folder_.path() / "pictures"));
 }
 
+TEST_F(CommandLineOfGdiview, AWordThatIsNeitherACommandNorAFileIsTold) {
+  writeJob("job");
+  for (const char* words : {"chekc job", "chekc", "chekc job -o pictures"}) {
+    EXPECT_EQ(run(words), 2) << words;
+    EXPECT_EQ(errors(), "gdiview: there is no command or file chekc; gdiview --help tells more\n");
+  }
+  EXPECT_EQ(run("'a\nb'"), 2);
+  EXPECT_EQ(errors(), "gdiview: there is no command or file a\\nb; gdiview --help tells more\n");
+}
+
+TEST_F(CommandLineOfGdiview, AnUnknownOptionIsToldAheadOfWhatIsMissing) {
+  writeJob("job");
+  EXPECT_EQ(run("--bogus"), 2);
+  EXPECT_EQ(errors(), "gdiview: there is no option --bogus; gdiview png --help tells more\n");
+  EXPECT_EQ(run("job --bogus"), 2);
+  EXPECT_EQ(errors(), "gdiview: there is no option --bogus; gdiview png --help tells more\n");
+  EXPECT_EQ(run("check job -x"), 2);
+  EXPECT_EQ(errors(), "gdiview: there is no option -x; gdiview check --help tells more\n");
+}
+
+TEST_F(CommandLineOfGdiview, WhatIsMissingIsToldWithTheCommandsHelp) {
+  writeJob("job");
+  EXPECT_EQ(run("job"), 2);
+  EXPECT_EQ(errors(), "gdiview: --out is required; gdiview png --help tells more\n");
+  EXPECT_EQ(run("info"), 2);
+  EXPECT_EQ(errors(), "gdiview: JOB is required; gdiview info --help tells more\n");
+  EXPECT_EQ(run("png job -o"), 2);
+  EXPECT_EQ(errors(), "gdiview: --out needs a value; gdiview png --help tells more\n");
+  EXPECT_EQ(run(""), 2);
+  EXPECT_EQ(errors(), "gdiview: there is no command and no JOB; gdiview --help tells more\n");
+}
+
+TEST_F(CommandLineOfGdiview, WhatIsTooMuchIsTold) {
+  writeJob("job");
+  EXPECT_EQ(run("check job other"), 2);
+  EXPECT_EQ(errors(), "gdiview: other is one word too many; gdiview check --help tells more\n");
+  EXPECT_EQ(run("png job -o a -o b"), 2);
+  EXPECT_EQ(errors(), "gdiview: --out may be given once; gdiview png --help tells more\n");
+}
+
+TEST_F(CommandLineOfGdiview, FieldsToIgnoreMayStandAnywhere) {
+  writeJob("A");
+  folder_.write("B",
+                test::contentsOf(folder_.path() / "A").replace(23, 1, "\xD4"));  // an hour less
+  for (const char* words :
+       {"A B --ignore date,host", "--ignore date,host A B", "A --ignore date,host B",
+        "--ignore date,host A B -o DIR", "--ignore date,host -o DIR A B",
+        "-o DIR --ignore date,host A B", "A B -o DIR --ignore date,host", "--ignore=date,host A B",
+        "--ignore date --ignore host A B -o DIR", "--ignore date A B --ignore=host"}) {
+    EXPECT_EQ(run(std::string("diff ") + words), 0) << words << ": " << errors();
+    EXPECT_EQ(errors(), "") << words;
+  }
+  EXPECT_EQ(run("diff A B --ignore copies"), 1);
+}
+
+TEST_F(CommandLineOfGdiview, AFieldThatDoesNotExistIsToldByItself) {
+  EXPECT_EQ(run("diff A B --ignore date,dote"), 2);
+  EXPECT_EQ(errors(),
+            "gdiview: --ignore: there is no field dote; gdiview diff --help tells more\n");
+  EXPECT_EQ(run("diff --help"), 0);
+  EXPECT_NE(out().find("\nFIELD is one of: prologue length "), std::string::npos);
+}
+
+TEST_F(CommandLineOfGdiview, ResourcesThatCannotBeReadAreRefused) {
+  writeJob("job");
+  folder_.write("Info.plist", "<plist><dict><key>");
+  EXPECT_EQ(run("check --resources . job"), 2);
+  EXPECT_EQ(errors(),
+            "gdiview: --resources: .: its Info.plist is no dictionary; gdiview check --help tells "
+            "more\n");
+}
+
+TEST_F(CommandLineOfGdiview, OneWordIsUsedForACommand) {
+  for (const char* words : {"--help", "png --help", "diff --help"}) {
+    EXPECT_EQ(run(words), 0);
+    std::string text = out();
+    std::ranges::transform(text, text.begin(), [](unsigned char c) { return std::tolower(c); });
+    EXPECT_EQ(text.find("subcommand"), std::string::npos) << words;
+    EXPECT_EQ(text.find('{'), std::string::npos) << words;
+    EXPECT_EQ(text.find("docs/"), std::string::npos) << words;
+  }
+}
+
 TEST_F(CommandLineOfGdiview, AJobWithoutACommandBecomesPictures) {
   writeJob("job");
   EXPECT_EQ(run("job -o pictures"), 0);
   EXPECT_EQ(errors(), "");
   EXPECT_TRUE(std::filesystem::is_regular_file(folder_.path() / "pictures/page-1.png"));
   EXPECT_TRUE(std::filesystem::is_regular_file(folder_.path() / "pictures/page-2.png"));
+}
+
+TEST_F(CommandLineOfGdiview, WithoutACommandOptionsMayComeFirst) {
+  writeJob("job");
+  EXPECT_EQ(run("-o png --upright job"), 0);
+  EXPECT_EQ(errors(), "");
+  EXPECT_TRUE(std::filesystem::is_regular_file(folder_.path() / "png/page-1.png"));
 }
 
 TEST_F(CommandLineOfGdiview, AHyphenIsStandardInput) {

@@ -91,7 +91,7 @@ TEST_F(DiffJobs, AFieldOfTheHostRecordIsTold) {
 TEST_F(DiffJobs, AFieldOfAPageRecordIsTold) {
   EXPECT_EQ(toldOf(kPage1Offset, 34, {0, 5}), "page 1: number: 0 in A, 5 in B\n");
   EXPECT_EQ(toldOf(kPage2Offset, 63, {142}),
-            "page 2: page_length: 42 (0.0 mm) in A, 142 (0.1 mm) in B\n");
+            "page 2: page_length: 42 (0.042 mm) in A, 142 (0.142 mm) in B\n");
 }
 
 TEST_F(DiffJobs, ABandsFlagsAreToldWithTheirMeaning) {

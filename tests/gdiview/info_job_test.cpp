@@ -1,32 +1,18 @@
 // SPDX-FileCopyrightText: 2026 The rasterToGDI authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "tools/gdiview/info_job.h"
-
 #include <sstream>
 #include <string>
 
 #include <gtest/gtest.h>
 
-#include "tests/gdiview/small_jobs.h"
-#include "tests/jobs/sound_page.h"
+#include "tests/gdiview/info_job_fixture.h"
 
 namespace gdi::gdiview {
 namespace {
 
 using jobtest::Bytes;
 using jobtest::JobBuilder;
-
-constexpr char kPrologue[] = "\x1b%P\"\r\n";
-constexpr std::size_t kPrologueBytes = 6;
-constexpr std::size_t kBandOffset = 342;  // 6 + 120 + 152 + 64
-
-// One black page of 96 x 2 pixels whose band has 64 bytes: 442 bytes in all.
-JobBuilder onePage() {
-  JobBuilder job;
-  job.text(kPrologue).jobRecord(1).hostRecord();
-  return jobtest::addPage(job, {}).end();
-}
 
 const std::string kJobLines =
     "offset 6: job record, 120 bytes\n"
@@ -59,7 +45,7 @@ const std::string kPageLines =
     "  number              0 (from 0)\n"
     "  bands               1 (a plane, sometimes one too many)\n"
     "  page_width          4064 µm (4.1 mm)\n"
-    "  page_length         85 µm (0.1 mm)\n";
+    "  page_length         85 µm (0.085 mm)\n";
 
 const std::string kBandLine =
     "offset 342: band record, page 1, black band 0: flags 3 (first of its plane, last of the "
@@ -67,30 +53,13 @@ const std::string kBandLine =
     "black_bytes 64, row_bits 128, rows 2, page_blank 0, 200.0 % of 32 bytes\n";
 
 const std::string kPageSummary =
-    "page 1: A4, 1 plane of 1 bit (Fast), 96 x 2 pixels, rows of 128 bits, not blank\n"
+    "page 1: A4, 4.1 x 0.085 mm, 1 plane of 1 bit (Fast), 96 x 2 pixels, rows of 128 bits, not "
+    "blank\n"
     "  black: 1 band, 2 rows, 64 bytes\n"
     "  compressed: 64 bytes, 200.0 % of 32; the largest is black band 0 with 64 bytes\n";
 
 const std::string kJobLine =
     "job: 1 page, 3 copies, \"Report\", 2026-11-15 21:54:36, host \"desk\", user \"anna\"\n";
-
-class InfoJob : public testing::Test {
- protected:
-  InfoJob() { options_.prologueBytes = kPrologueBytes; }
-
-  int run(std::istream& stream) {
-    JobInput input(stream, "JOB");
-    return infoJob(input, options_, out_, errors_);
-  }
-  int run(const JobBuilder& job) {
-    std::istringstream stream = job.stream();
-    return run(stream);
-  }
-
-  InfoOptions options_;
-  std::ostringstream out_;
-  std::ostringstream errors_;
-};
 
 TEST_F(InfoJob, EveryRecordIsToldFieldByFieldThenThePageAndTheJob) {
   EXPECT_EQ(run(onePage()), kSound);
@@ -107,6 +76,36 @@ TEST_F(InfoJob, APrologueOfUnknownLengthIsSearchedForItsEnd) {
   options_.prologueBytes.reset();
   EXPECT_EQ(run(onePage()), kSound);
   EXPECT_EQ(out_.str().find("offset 0: prologue, 6 bytes, found by searching for a record\n"), 0U);
+}
+
+TEST_F(InfoJob, ThatThereIsNoPrologueIsToldAsSuch) {
+  options_.prologueBytes.reset();
+  EXPECT_EQ(run(twoPages()), kSound);
+  EXPECT_EQ(out_.str().find("offset 0: no prologue\noffset 0: job record, "), 0U);
+}
+
+// The band's data are bytes of no code word: nobody knows whether it had ink.
+TEST_F(InfoJob, APageWithALostBandIsNotCalledBlank) {
+  options_.page = 1;
+  options_.summary = true;
+  JobBuilder job;
+  job.jobRecord(1).hostRecord().pageRecord({.rows = 2, .heightMicrometres = 85});
+  job.band({.flags = jobtest::kFirst | jobtest::kLast, .rows = 2}, Bytes(16, 0x55)).end();
+  EXPECT_EQ(run(job), kFaulty);
+  EXPECT_NE(out_.str().find(", no ink in what can be read\n"), std::string::npos);
+  EXPECT_NE(out_.str().find("; 1 band lost\n"), std::string::npos);
+}
+
+// Nothing is written to a terminal that there is not; the line would stand among the records.
+TEST_F(InfoJob, ATerminalSeesHowMuchHasBeenRead) {
+  Progress::Time now;
+  Progress progress(errors_, true, 442, [&now] { return now += std::chrono::seconds(2); });
+  std::istringstream stream = onePage().stream();
+  JobInput input(stream, "JOB");
+  EXPECT_EQ(infoJob(input, options_, progress, out_, errors_), kSound);
+  EXPECT_NE(errors_.str().find("\rgdiview: page 1, "), std::string::npos);
+  EXPECT_EQ(errors_.str().back(), '\r');
+  EXPECT_EQ(out_.str().find('\r'), std::string::npos);
 }
 
 TEST_F(InfoJob, TheSummariesAloneHaveNoRecords) {
@@ -135,13 +134,15 @@ TEST_F(InfoJob, AColourPageHasALineForEachPlane) {
   options_.page = 2;
   options_.summary = true;
   EXPECT_EQ(run(twoPages()), kSound);
-  EXPECT_EQ(out_.str(),
-            "page 2: A4, 4 planes of 1 bit (Fast), 96 x 1 pixels, rows of 128 bits, not blank\n"
-            "  cyan: 1 band, 1 row, 32 bytes\n"
-            "  magenta: 1 band, 1 row, 32 bytes\n"
-            "  yellow: 1 band, 1 row, 32 bytes\n"
-            "  black: 1 band, 1 row, 32 bytes\n"
-            "  compressed: 128 bytes, 200.0 % of 64; the largest is black band 0 with 32 bytes\n");
+  EXPECT_EQ(
+      out_.str(),
+      "page 2: A4, 4.1 x 0.042 mm, 4 planes of 1 bit (Fast), 96 x 1 pixels, rows of 128 bits, not "
+      "blank\n"
+      "  cyan: 1 band, 1 row, 32 bytes\n"
+      "  magenta: 1 band, 1 row, 32 bytes\n"
+      "  yellow: 1 band, 1 row, 32 bytes\n"
+      "  black: 1 band, 1 row, 32 bytes\n"
+      "  compressed: 128 bytes, 200.0 % of 64; the largest is black band 0 with 32 bytes\n");
 }
 
 TEST_F(InfoJob, ABlankPageIsToldAndThatItIsFlagged) {
@@ -150,9 +151,11 @@ TEST_F(InfoJob, ABlankPageIsToldAndThatItIsFlagged) {
   jobtest::SoundPage page;
   page.blank = true;
   EXPECT_EQ(run(jobtest::jobOf(page)), kSound);
-  EXPECT_EQ(out_.str().find("page 1: A4, 1 plane of 1 bit (Fast), 96 x 2 pixels, rows of 128 bits, "
-                            "blank, flagged as blank\n"),
-            0U);
+  EXPECT_EQ(
+      out_.str().find(
+          "page 1: A4, 4.1 x 0.085 mm, 1 plane of 1 bit (Fast), 96 x 2 pixels, rows of 128 bits, "
+          "blank, flagged as blank\n"),
+      0U);
 }
 
 TEST_F(InfoJob, APageThatIsNotThereIsToldAndNothingIsPrinted) {
@@ -171,8 +174,9 @@ TEST_F(InfoJob, AJobThatBreaksOffInABandIsToldUpToThere) {
             "offset 0: prologue, 6 bytes, as long as Info.plist says\n"
             "  \"\\x1b%P\\\"\\r\\n\"\n" +
                 kJobLines + kPageLines +
-                "page 1: A4, 1 plane of 1 bit (Fast), 96 x 0 pixels, rows of 128 bits, blank, "
-                "broken off\n"
+                "page 1: A4, 4.1 x 0.085 mm, 1 plane of 1 bit (Fast), 96 x 0 pixels, rows of 128 "
+                "bits, no "
+                "ink in what can be read, broken off\n"
                 "  black: 0 bands, 0 rows, 0 bytes\n"
                 "  compressed: 0 bytes, of nothing\n"
                 "offset 342: the stream ends after 10 of the black band's 64 bytes\n" +
@@ -209,15 +213,6 @@ TEST_F(InfoJob, AnInputThatCannotBeReadOnIsToldWithWhatWasRead) {
   EXPECT_EQ(errors_.str(), "gdiview: JOB: the input cannot be read beyond offset 384\n");
   EXPECT_NE(out_.str().find(kPageLines + "page 1: "), std::string::npos);
   EXPECT_NE(out_.str().find("\noffset 342: the input cannot be read on\n"), std::string::npos);
-}
-
-TEST_F(InfoJob, AnInputThatCannotBeReadOnIsToldInJsonToo) {
-  options_.json = true;
-  Bytes bytes = onePage().bytes();
-  bytes.resize(kBandOffset + 32 + 10);
-  FailingInput stream(bytes);
-  EXPECT_EQ(run(stream), kUnusable);
-  EXPECT_NE(out_.str().find(R"("text":"the input cannot be read on")"), std::string::npos);
 }
 
 TEST_F(InfoJob, AnInputThatCannotBeReadAtAllPrintsNothing) {

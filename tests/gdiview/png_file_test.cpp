@@ -65,7 +65,50 @@ TEST_F(PngFileOnDisk, APictureThatIsGivenUpIsRemoved) {
   ASSERT_NE(file, nullptr);
   EXPECT_TRUE(file->writeRow(std::vector<std::uint8_t>{0, 128, 255}));
   file.reset();
+  EXPECT_TRUE(std::filesystem::is_empty(scratch_));
+}
+
+TEST_F(PngFileOnDisk, APictureHasItsNameOnlyOnceItIsFinished) {
+  std::unique_ptr<PngFile> file = PngFile::create(picture_, {3, 1, 1, 23622});
+  ASSERT_NE(file, nullptr);
+  EXPECT_TRUE(file->writeRow(std::vector<std::uint8_t>{0, 128, 255}));
   EXPECT_FALSE(std::filesystem::exists(picture_));
+  EXPECT_TRUE(std::filesystem::exists(scratch_ / "picture.png.part"));
+  EXPECT_TRUE(file->finish());
+  EXPECT_TRUE(std::filesystem::exists(picture_));
+  EXPECT_FALSE(std::filesystem::exists(scratch_ / "picture.png.part"));
+}
+
+TEST_F(PngFileOnDisk, AnOlderPictureStaysWhenTheNewOneIsGivenUp) {
+  std::ofstream(picture_) << "older";
+  std::unique_ptr<PngFile> file = PngFile::create(picture_, {3, 2, 1, 23622});
+  ASSERT_NE(file, nullptr);
+  file.reset();
+  EXPECT_EQ(std::filesystem::file_size(picture_), 5U);
+}
+
+TEST_F(PngFileOnDisk, WhatAKilledRunLeftIsReplaced) {
+  std::ofstream(scratch_ / "picture.png.part") << "half a picture";
+  std::unique_ptr<PngFile> file = PngFile::create(picture_, {3, 1, 1, 23622});
+  ASSERT_NE(file, nullptr);
+  EXPECT_TRUE(file->writeRow(std::vector<std::uint8_t>{0, 128, 255}));
+  EXPECT_TRUE(file->finish());
+  EXPECT_TRUE(std::filesystem::exists(picture_));
+  EXPECT_FALSE(std::filesystem::exists(scratch_ / "picture.png.part"));
+}
+
+// A link of the picture's name is replaced, and what it leads to stays as it is.
+TEST_F(PngFileOnDisk, NothingIsWrittenThroughALink) {
+  std::ofstream(scratch_ / "other") << "other";
+  std::filesystem::create_symlink("other", picture_);
+  std::filesystem::create_symlink("other", scratch_ / "picture.png.part");
+  std::unique_ptr<PngFile> file = PngFile::create(picture_, {3, 1, 1, 23622});
+  ASSERT_NE(file, nullptr);
+  EXPECT_TRUE(file->writeRow(std::vector<std::uint8_t>{0, 128, 255}));
+  EXPECT_TRUE(std::filesystem::is_symlink(picture_));
+  EXPECT_TRUE(file->finish());
+  EXPECT_FALSE(std::filesystem::is_symlink(picture_));
+  EXPECT_EQ(std::filesystem::file_size(scratch_ / "other"), 5U);
 }
 
 // The first of the rows that no longer fits is told, and errno outlives the removal.
@@ -92,7 +135,7 @@ TEST_F(PngFileOnDisk, ADiskThatIsFullAmongTheRowsLeavesNoHalfPicture) {
   }
   EXPECT_FALSE(written);
   EXPECT_EQ(error, EFBIG);
-  EXPECT_FALSE(std::filesystem::exists(picture_));
+  EXPECT_TRUE(std::filesystem::is_empty(scratch_));
 }
 
 // All of a small picture is still in memory when its last row has been written.
@@ -111,7 +154,7 @@ TEST_F(PngFileOnDisk, ADiskThatIsFullAtTheEndLeavesNoHalfPicture) {
   }
   EXPECT_FALSE(finished);
   EXPECT_EQ(error, EFBIG);
-  EXPECT_FALSE(std::filesystem::exists(picture_));
+  EXPECT_TRUE(std::filesystem::is_empty(scratch_));
 }
 
 }  // namespace

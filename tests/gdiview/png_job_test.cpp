@@ -1,17 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The rasterToGDI authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "tools/gdiview/png_job.h"
-
-#include <fstream>
-#include <sstream>
 #include <string>
 
 #include <gtest/gtest.h>
 
-#include "tests/gdiview/png_reader.h"
-#include "tests/gdiview/small_jobs.h"
-#include "tests/support/TemporaryFolder.h"
+#include "tests/gdiview/png_job_fixture.h"
 
 namespace gdi::gdiview {
 namespace {
@@ -21,30 +15,6 @@ using jobtest::JobBuilder;
 using jobtest::kFirst;
 using jobtest::kLast;
 using reader::Ink;
-
-class PngJob : public testing::Test {
- protected:
-  PngJob() { options_.folder = scratch_.path() / "pictures"; }
-
-  int run(std::istream& stream, std::ostream& out) {
-    JobInput input(stream, "JOB");
-    return pngJob(input, options_, progress_, out, errors_);
-  }
-  int run(const JobBuilder& job) {
-    std::istringstream stream = job.stream();
-    return run(stream, lines_);
-  }
-  [[nodiscard]] std::string pathOf(const std::string& name) const {
-    return (options_.folder / (name + ".png")).string();
-  }
-  [[nodiscard]] PngPicture picture(const std::string& name) const { return readPng(pathOf(name)); }
-
-  test::TemporaryFolder scratch_;
-  PngOptions options_;
-  std::ostringstream lines_;
-  std::ostringstream errors_;
-  Progress progress_{errors_, false};
-};
 
 // Nine code words a row record without and eleven with the clear-row command, a word ahead of each:
 // 22 words and the trailer's 4 are filled up to 32, 64 bytes; 12 words to 16, 32 bytes.
@@ -153,73 +123,6 @@ TEST_F(PngJob, OnePageAloneKeepsItsNumber) {
   EXPECT_EQ(picture("page-2").width, 96U);
 }
 
-TEST_F(PngJob, APageThatIsNotThereIsTold) {
-  options_.page = 3;
-  EXPECT_EQ(run(twoPages()), kUnusable);
-  EXPECT_EQ(errors_.str(), "gdiview: JOB: there is no page 3; the job has 2\n");
-}
-
-TEST_F(PngJob, AViolationIsALineAndAllPagesAreStillWritten) {
-  JobBuilder job = twoPages();
-  job.bytes().resize(kEndOffset);
-  EXPECT_EQ(run(job), kFaulty);
-  EXPECT_EQ(errors_.str(),
-            "gdiview: JOB: offset 752: end of the stream: end-mark: the stream ends without the "
-            "end-of-job mark (JIDG)\n");
-  EXPECT_EQ(picture("page-1").width, 96U);
-  EXPECT_EQ(picture("page-2").width, 96U);
-}
-
-TEST_F(PngJob, OfManyViolationsTheFirstTwentyAreTold) {
-  JobBuilder job;
-  job.jobRecord(1).hostRecord();
-  for (std::uint16_t page = 0; page < 25; ++page) {
-    job.pageRecord({.rows = 1, .channels = 3, .number = page});
-  }
-  EXPECT_EQ(run(job.end()), kFaulty);
-  const std::string errors = errors_.str();
-  EXPECT_EQ(std::count(errors.begin(), errors.end(), '\n'), 21);
-  EXPECT_NE(errors.find("gdiview: JOB: there is more, which gdiview check tells\n"),
-            std::string::npos);
-}
-
-TEST_F(PngJob, ANoteIsToldAndLeavesTheStatusAt0) {
-  JobBuilder job;
-  job.jobRecord(1).hostRecord().pageRecord({.rows = 257, .heightMicrometres = 10880});
-  job.band(Ink::kBlack, kFirst, jobtest::Rows(256, rowOf(0xFF))).end();
-  EXPECT_EQ(run(job), kSound);
-  EXPECT_EQ(errors_.str().find("gdiview: JOB: offset 272: page 1: note steps-left-out: "), 0U);
-  EXPECT_EQ(picture("page-1").height, 256U);
-}
-
-TEST_F(PngJob, AnInputThatCannotBeReadOnIsTold) {
-  Bytes bytes = twoPages().bytes();
-  bytes.resize(kPage2Offset);
-  FailingInput stream(bytes);
-  EXPECT_EQ(run(stream, lines_), kUnusable);
-  EXPECT_NE(errors_.str().find("gdiview: JOB: the input cannot be read beyond offset 432\n"),
-            std::string::npos);
-  EXPECT_EQ(picture("page-1").width, 96U);
-}
-
-TEST_F(PngJob, WhatIsNoJobStreamHasNoPictures) {
-  std::istringstream stream("%PDF-1.7\n");
-  EXPECT_EQ(run(stream, lines_), kUnusable);
-  EXPECT_EQ(errors_.str(), "gdiview: JOB: this is no job stream: it begins like a PDF document\n");
-  EXPECT_EQ(lines_.str(), "");
-}
-
-TEST_F(PngJob, LinesThatCannotBeWrittenAreAFailure) {
-  std::ofstream full("/dev/full");
-  if (!full) {
-    GTEST_SKIP() << "there is no /dev/full";
-  }
-  std::istringstream stream = twoPages().stream();
-  EXPECT_EQ(run(stream, full), kUnusable);
-  EXPECT_EQ(errors_.str(), "gdiview: standard output: No space left on device\n");
-  EXPECT_EQ(picture("page-2").width, 96U);
-}
-
 TEST_F(PngJob, APageWithoutRowsHasNoPicture) {
   JobBuilder job;
   job.jobRecord(1).hostRecord().pageRecord({}).end();
@@ -228,28 +131,20 @@ TEST_F(PngJob, APageWithoutRowsHasNoPicture) {
   EXPECT_EQ(picture("page-1").width, 0U);
 }
 
-TEST_F(PngJob, AFolderThatCannotBeMadeIsTold) {
-  options_.folder = scratch_.write("file", "x") / "pictures";
-  EXPECT_EQ(run(twoPages()), kUnusable);
-  EXPECT_EQ(errors_.str(), "gdiview: " + options_.folder.string() + ": Not a directory\n");
+// The paper is 0.32 inches wide and 0.8 long: 96 x 240 pixels at 300 dots an inch, 11811 a metre.
+TEST_F(PngJob, APageOfAnotherResolutionSaysItsOwn) {
+  JobBuilder job;
+  job.jobRecord(1).hostRecord();
+  job.pageRecord({.rows = 240, .widthMicrometres = 8128, .heightMicrometres = 20320});
+  job.band(Ink::kBlack, kFirst | kLast, jobtest::Rows(240, rowOf(0xFF)));
+  EXPECT_EQ(run(job.end()), kSound);
+  EXPECT_EQ(picture("page-1").samplesPerMetre, 11811U);
 }
 
-TEST_F(PngJob, APictureThatCannotBeWrittenIsToldWithItsName) {
-  std::filesystem::create_directories(pathOf("page-1"));
-  EXPECT_EQ(run(twoPages()), kUnusable);
-  EXPECT_EQ(errors_.str(), "gdiview: " + pathOf("page-1") + ": Is a directory\n");
-}
-
-// The line is there while the first page is painted and gone ahead of its line.
-TEST_F(PngJob, ATerminalSeesHowFarTheJobHasBeenRead) {
-  Progress::Time now;
-  Progress progress(lines_, true, 756, [&now] { return now += std::chrono::seconds(2); });
-  std::istringstream stream = twoPages().stream();
-  JobInput input(stream, "JOB");
-  EXPECT_EQ(pngJob(input, options_, progress, lines_, errors_), kSound);
-  // The record behind a page is read before the page is known to be over.
-  EXPECT_EQ(lines_.str().find("\rgdiview: page 1, 65 %\r" + std::string(21, ' ') + "\rpage 1: "),
-            0U);
+TEST_F(PngJob, APictureSaysAtLeastOneSampleAMetre) {
+  options_.reduction = 100000;
+  EXPECT_EQ(run(twoPages()), kSound);
+  EXPECT_EQ(picture("page-1").samplesPerMetre, 1U);
 }
 
 }  // namespace

@@ -34,10 +34,6 @@ std::string meaningOf(std::size_t offset, std::string_view name, std::uint8_t co
   return fieldOf(RecordKind::kPage, job.bytes(), name).meaning;
 }
 
-std::string escapedText(std::string_view text) {
-  return escaped(Bytes(text.begin(), text.end()));
-}
-
 TEST(RecordFields, AMediaSizeHasItsName) {
   EXPECT_EQ(meaningOf(8, "media_size", 1), "Letter");
   EXPECT_EQ(meaningOf(8, "media_size", 9), "A4");
@@ -82,6 +78,14 @@ TEST(RecordFields, ALengthOnPaperIsToldInMillimetresToo) {
   EXPECT_EQ(valueText(length), "297010");
   EXPECT_EQ(length.unit, "µm");
   EXPECT_EQ(length.meaning, "297.0 mm");
+}
+
+TEST(RecordFields, ALengthBelowAMillimetreKeepsItsDigits) {
+  EXPECT_EQ(millimetres(0), "0");
+  EXPECT_EQ(millimetres(42), "0.042");
+  EXPECT_EQ(millimetres(999), "0.999");
+  EXPECT_EQ(millimetres(1000), "1.0");
+  EXPECT_EQ(millimetres(297038), "297.0");
 }
 
 TEST(RecordFields, BandFlagsAreToldInWords) {
@@ -134,40 +138,6 @@ TEST(RecordFields, AFieldThatTheRecordLacksHasNoText) {
   JobBuilder job;
   job.jobRecord(1);
   EXPECT_EQ(fieldText(RecordKind::kJob, job.bytes(), "user"), "");
-}
-
-TEST(Escaped, ControlsAreWrittenAsInC) {
-  EXPECT_EQ(escapedText("a\r\n\tb"), R"(a\r\n\tb)");
-  EXPECT_EQ(escapedText("\x1b%-12345X"), R"(\x1b%-12345X)");
-  EXPECT_EQ(escapedText("\x7f"), R"(\x7f)");
-  EXPECT_EQ(escapedText(std::string_view("\0", 1)), R"(\x00)");
-}
-
-TEST(Escaped, QuotesAndBackslashesAreEscaped) {
-  EXPECT_EQ(escapedText(R"(a"b\c)"), R"(a\"b\\c)");
-}
-
-TEST(Escaped, CharactersInUtf8AreKept) {
-  EXPECT_EQ(escapedText("Grüße €\xF0\x9F\x96\xA8."), "Grüße €\xF0\x9F\x96\xA8.");
-}
-
-TEST(Escaped, ControlsBeyondAsciiAreEscaped) {
-  EXPECT_EQ(escapedText("\xC2\x85"), R"(\xc2\x85)");
-  EXPECT_EQ(escapedText("\xC2\xA0"), "\xC2\xA0");
-}
-
-TEST(Escaped, BytesOfNoWholeCharacterAreEscaped) {
-  EXPECT_EQ(escapedText("Gr\xFC\xDF"), R"(Gr\xfc\xdf)");      // Latin-1
-  EXPECT_EQ(escapedText("\xE2\x82"), R"(\xe2\x82)");          // cut short
-  EXPECT_EQ(escapedText("\x80z"), R"(\x80z)");                // begins none
-  EXPECT_EQ(escapedText("\xC0\x80"), R"(\xc0\x80)");          // too long
-  EXPECT_EQ(escapedText("\xED\xA0\x80"), R"(\xed\xa0\x80)");  // half a character of UTF-16
-  EXPECT_EQ(escapedText("\xE2\x82ü"), "\\xe2\\x82ü");         // the next one is kept
-}
-
-TEST(Escaped, QuotedIsTheSameBetweenQuotes) {
-  EXPECT_EQ(quoted(Bytes{'a', '"', '\n'}), R"("a\"\n")");
-  EXPECT_EQ(quoted({}), "\"\"");
 }
 
 }  // namespace

@@ -1,13 +1,15 @@
 // SPDX-FileCopyrightText: 2026 The rasterToGDI authors
 // SPDX-License-Identifier: Apache-2.0
 
-// What is found wrong with a job while it is shown: the first few lines of it.
+// The violations found in a job while it is shown: the first few lines of them. Notes are left to
+// gdiview check.
 #pragma once
 
 #include <ostream>
 #include <string>
 
 #include "reader/rules.h"
+#include "tools/gdiview/escaped_text.h"
 
 namespace gdi::gdiview {
 
@@ -16,9 +18,13 @@ class FindingLines {
   static constexpr unsigned kMostLines = 20;
 
   // out: must outlive this.
-  FindingLines(std::ostream& out, std::string jobName) : out_(out), jobName_(std::move(jobName)) {}
+  FindingLines(std::ostream& out, const std::string& jobName)
+      : out_(out), jobName_(nameInLine(jobName)) {}
 
   void tell(const reader::Finding& finding) {
+    if (finding.remark()) {
+      return;
+    }
     if (told_ < kMostLines) {
       out_ << "gdiview: " << jobName_ << ": " << reader::lineOf(finding) << '\n';
     } else if (told_ == kMostLines) {

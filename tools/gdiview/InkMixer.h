@@ -24,11 +24,8 @@ class InkMixer {
   // inks: at most 4; bitsPerPixel: 1, 2 or 4.
   InkMixer(std::span<const reader::Ink> inks, unsigned bitsPerPixel);
 
-  // The colour of a pixel. Its pixel values stand side by side in `values`, the first ink's in the
-  // lowest bitsPerPixel bits.
-  // requires: values < 2 to the power of (number of inks x bitsPerPixel)
-  [[nodiscard]] const Color& mix(std::uint16_t values) const { return colors_[values]; }
-  // The colours of all values, in their order.
+  // The colour of a pixel, for all values that its inks can have together, in their order: they
+  // stand side by side in a number, the first ink's in the lowest bitsPerPixel bits.
   [[nodiscard]] std::span<const Color> colors() const { return colors_; }
 
  private:

@@ -6,11 +6,12 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <filesystem>
 #include <iostream>
 #include <string_view>
 #include <system_error>
 
-#include "platform/NSBundle.h"
+#include "tools/gdiview/escaped_text.h"
 
 namespace gdi::gdiview {
 
@@ -47,17 +48,6 @@ std::string startsLike(const reader::Prologue& prologue) {
   return ": it holds no record of one";
 }
 
-// Of text in UTF-8; one of more than 16 bits counts two.
-std::uint64_t utf16Units(std::string_view text) {
-  std::uint64_t units = 0;
-  for (const char character : text) {
-    const auto byte = static_cast<std::uint8_t>(character);
-    const bool begins = (byte & 0xC0U) != 0x80U;
-    units += begins ? (byte >= 0xF0 ? 2U : 1U) : 0U;
-  }
-  return units;
-}
-
 }  // namespace
 
 JobInput::JobInput(const std::string& name) : name_(name), stream_(&file_) {
@@ -80,31 +70,21 @@ JobInput::JobInput(const std::string& name) : name_(name), stream_(&file_) {
 
 bool JobInput::isOpen(std::ostream& errors) const {
   if (error_ != 0) {
-    errors << "gdiview: " << name_ << ": " << std::generic_category().message(error_) << '\n';
+    errors << "gdiview: " << nameInLine(name_) << ": " << std::generic_category().message(error_)
+           << '\n';
   }
   return error_ == 0;
-}
-
-// docs/quirks.md, "The prologue is counted in UTF-16 units"
-std::optional<std::uint64_t> prologueBytesOf(
-    const std::optional<std::filesystem::path>& resources) {
-  NSBundle bundle(resources.value_or(NSBundle::mainBundle().resourcePath()));
-  const std::optional<std::string> text = bundle.objectForInfoDictionaryKey("CUPSFileHeader");
-  if (!text) {
-    return std::nullopt;
-  }
-  return std::min<std::uint64_t>(utf16Units(*text), text->size());
 }
 
 bool isJobStream(const reader::JobWalk& walk, const reader::Prologue& start,
                  const std::string& name, std::ostream& errors) {
   if (walk.failed()) {
-    errors << "gdiview: " << name << ": the input cannot be read beyond offset " << walk.offset()
-           << '\n';
+    errors << "gdiview: " << nameInLine(name) << ": the input cannot be read beyond offset "
+           << walk.offset() << '\n';
     return false;
   }
   if (!walk.foundRecord()) {
-    errors << "gdiview: " << name
+    errors << "gdiview: " << nameInLine(name)
            << (walk.offset() == 0 ? ": the input is empty"
                                   : ": this is no job stream" + startsLike(start))
            << '\n';
@@ -114,8 +94,8 @@ bool isJobStream(const reader::JobWalk& walk, const reader::Prologue& start,
 
 void tellMissingPage(const std::string& name, std::uint32_t page, const reader::JobTotals& totals,
                      std::ostream& errors) {
-  errors << "gdiview: " << name << ": there is no page " << page << "; the job has " << totals.pages
-         << '\n';
+  errors << "gdiview: " << nameInLine(name) << ": there is no page " << page << "; the job has "
+         << totals.pages << '\n';
 }
 
 int statusAfterWriting(std::ostream& out, int status, std::ostream& errors) {

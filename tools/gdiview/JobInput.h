@@ -5,7 +5,6 @@
 #pragma once
 
 #include <cstdint>
-#include <filesystem>
 #include <fstream>
 #include <istream>
 #include <optional>
@@ -44,10 +43,6 @@ class JobInput {
   int error_ = 0;
   std::optional<std::uint64_t> size_;
 };
-
-// Bytes of the prologue that a filter with these resources sends; the resources are those beside
-// the program or installed with it when no folder is given. Nothing when there are none.
-std::optional<std::uint64_t> prologueBytesOf(const std::optional<std::filesystem::path>& resources);
 
 // Whether the walk, which is over, has seen a job stream and could read on. If not, one line says
 // what there was instead: that the input cannot be read, that it is empty, or what it looks like.

@@ -19,19 +19,24 @@ constexpr int kCompressionLevel = 3;
 
 std::unique_ptr<PngFile> PngFile::create(const std::filesystem::path& path,
                                          const PngLayout& layout) {
-  std::FILE* file = std::fopen(path.c_str(), "wbe");
+  std::filesystem::path partPath = path;
+  partPath += ".part";
+  std::error_code ignored;
+  std::filesystem::remove(partPath, ignored);
+  // A file of this run's own, never what a link of that name leads to.
+  std::FILE* file = std::fopen(partPath.c_str(), "wbex");
   if (file == nullptr) {
     return nullptr;
   }
-  std::unique_ptr<PngFile> png(new PngFile(path, file));
+  std::unique_ptr<PngFile> png(new PngFile(path, std::move(partPath), file));
   if (!png->writeHeader(layout)) {
     return nullptr;
   }
   return png;
 }
 
-PngFile::PngFile(std::filesystem::path path, std::FILE* file)
-    : path_(std::move(path)), file_(file) {
+PngFile::PngFile(std::filesystem::path path, std::filesystem::path partPath, std::FILE* file)
+    : path_(std::move(path)), partPath_(std::move(partPath)), file_(file) {
 }
 
 PngFile::~PngFile() {
@@ -42,7 +47,7 @@ PngFile::~PngFile() {
   }
   if (!finished_) {
     std::error_code ignored;
-    std::filesystem::remove(path_, ignored);
+    std::filesystem::remove(partPath_, ignored);
   }
   errno = error;
 }
@@ -88,7 +93,7 @@ bool PngFile::finish() {
   }
   png_write_end(png_, nullptr);
   std::FILE* file = std::exchange(file_, nullptr);
-  finished_ = std::fclose(file) == 0;
+  finished_ = std::fclose(file) == 0 && std::rename(partPath_.c_str(), path_.c_str()) == 0;
   return finished_;
 }
 // NOLINTEND(cert-err52-cpp)

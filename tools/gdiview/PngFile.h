@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The rasterToGDI authors
 // SPDX-License-Identifier: Apache-2.0
 
-// One PNG file, 8 bits a sample, written row by row; a file that is not finished is removed.
+// One PNG file, 8 bits a sample, written row by row. It has its name only once it is finished, and
+// an older file of that name stays until then; what is not finished is removed.
 #pragma once
 
 #include <cstdint>
@@ -23,7 +24,8 @@ struct PngLayout {
 
 class PngFile {
  public:
-  // Null when the file cannot be made; errno says why.
+  // Null when the file cannot be made; errno says why. Until it is finished it is `path` with
+  // ".part" behind it; what is left there of an earlier try goes.
   static std::unique_ptr<PngFile> create(const std::filesystem::path& path,
                                          const PngLayout& layout);
   ~PngFile();
@@ -35,14 +37,16 @@ class PngFile {
   // The next row, width x channels bytes. False when it cannot be written; nothing more may be
   // written then.
   bool writeRow(std::span<const std::uint8_t> row);
-  // Ends the file after its last row. False when it could not all be written.
+  // Ends the file after its last row and gives it its name. False when that cannot be done, or not
+  // all of it could be written.
   bool finish();
 
  private:
-  PngFile(std::filesystem::path path, std::FILE* file);
+  PngFile(std::filesystem::path path, std::filesystem::path partPath, std::FILE* file);
   bool writeHeader(const PngLayout& layout);
 
   std::filesystem::path path_;
+  std::filesystem::path partPath_;
   std::FILE* file_;
   png_structp png_ = nullptr;
   png_infop info_ = nullptr;

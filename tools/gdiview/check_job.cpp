@@ -5,31 +5,36 @@
 
 #include "reader/JobWalk.h"
 #include "reader/counted.h"
+#include "tools/gdiview/escaped_text.h"
 
 namespace gdi::gdiview {
 
-int checkJob(JobInput& input, const CheckOptions& options, std::ostream& out,
+int checkJob(JobInput& input, const CheckOptions& options, Progress& progress, std::ostream& out,
              std::ostream& errors) {
+  const std::string name = nameInLine(input.name());
   const auto tell = [&](const reader::Finding& finding) {
     if (!options.quiet || !finding.remark()) {
-      out << input.name() << ": " << reader::lineOf(finding) << '\n';
+      progress.clear();
+      out << name << ": " << reader::lineOf(finding) << '\n';
     }
   };
   reader::JobWalk walk(input.stream(), tell, options.prologueBytes);
   reader::Prologue prologue;
   std::uint64_t bands = 0;
   while (std::optional<reader::JobStep> job = walk.next()) {
+    progress.update(walk.totals().pages, walk.offset());
     bands += std::holds_alternative<reader::Band>(job->step.record) ? 1 : 0;
     if (auto* start = std::get_if<reader::Prologue>(&job->step.record)) {
       prologue = std::move(*start);
     }
   }
+  progress.clear();
   if (!isJobStream(walk, prologue, input.name(), errors)) {
     return statusAfterWriting(out, kUnusable, errors);
   }
   const reader::JobTotals& totals = walk.totals();
   if (!options.quiet) {
-    out << input.name() << ": " << reader::counted(totals.pages, "page") << ", "
+    out << name << ": " << reader::counted(totals.pages, "page") << ", "
         << reader::counted(bands, "band") << ", " << reader::counted(totals.violations, "violation")
         << ", " << reader::counted(totals.remarks, "note") << '\n';
   }

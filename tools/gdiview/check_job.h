@@ -9,6 +9,7 @@
 #include <ostream>
 
 #include "tools/gdiview/JobInput.h"
+#include "tools/gdiview/Progress.h"
 
 namespace gdi::gdiview {
 
@@ -18,8 +19,8 @@ struct CheckOptions {
 };
 
 // Writes a line a finding, page by page in the order in which they are found, and a last line that
-// counts them. Answers kSound,
-// kFaulty when there are violations, or kUnusable.
-int checkJob(JobInput& input, const CheckOptions& options, std::ostream& out, std::ostream& errors);
+// counts them. Answers kSound, kFaulty when there are violations, or kUnusable.
+int checkJob(JobInput& input, const CheckOptions& options, Progress& progress, std::ostream& out,
+             std::ostream& errors);
 
 }  // namespace gdi::gdiview

@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "reader/JobReader.h"
+#include "reader/page_resolution.h"
 #include "tools/gdiview/DifferenceLines.h"
 #include "tools/gdiview/DifferencePainter.h"
 #include "tools/gdiview/FindingLines.h"
@@ -90,7 +91,10 @@ bool writeDifference(const reader::Page& a, const reader::Page& b, const DiffOpt
   const std::filesystem::path path =
       *options.folder / ("page-" + std::to_string(a.ordinal) + "-diff.png");
   std::ostringstream trouble;
-  const bool written = writePicture(painter, options.reduction, path, trouble);
+  const double samplesPerInch = static_cast<double>(reader::pixelsPerInchOf(a)) / options.reduction;
+  const bool written =
+      writePicture(painter, samplesPerInch, path, trouble,
+                   [&](std::uint32_t rows) { progress.work(rows, painter.height()); });
   progress.clear();
   errors << trouble.str();
   if (written) {

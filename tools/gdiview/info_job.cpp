@@ -5,7 +5,8 @@
 
 namespace gdi::gdiview {
 
-int infoJob(JobInput& input, const InfoOptions& options, std::ostream& out, std::ostream& errors) {
+int infoJob(JobInput& input, const InfoOptions& options, Progress& progress, std::ostream& out,
+            std::ostream& errors) {
   const std::unique_ptr<InfoReport> report =
       options.json ? jsonReport(out, input.name()) : textReport(out);
   reader::JobWalk walk(
@@ -17,6 +18,7 @@ int infoJob(JobInput& input, const InfoOptions& options, std::ostream& out, std:
   bool shown = false;
   std::uint32_t page = 0;  // that is under way
   while (const std::optional<reader::JobStep> job = walk.next()) {
+    progress.update(walk.totals().pages, walk.offset());
     if (job->endedPage && wanted(job->endedPage->ordinal)) {
       report->page(*job->endedPage);
       shown = true;
@@ -38,6 +40,7 @@ int infoJob(JobInput& input, const InfoOptions& options, std::ostream& out, std:
       report->record(*job);
     }
   }
+  progress.clear();
   const bool readable = isJobStream(walk, prologue, input.name(), errors);
   if (!walk.foundRecord()) {
     return statusAfterWriting(out, kUnusable, errors);

@@ -12,6 +12,7 @@
 
 #include "reader/JobWalk.h"
 #include "tools/gdiview/JobInput.h"
+#include "tools/gdiview/Progress.h"
 
 namespace gdi::gdiview {
 
@@ -37,6 +38,11 @@ inline std::string brokenOffText(const reader::JobStep& job) {
   return job.step.flaws.empty() ? "the input cannot be read on" : job.step.flaws.back().text;
 }
 
+// Whether the page is known to be blank: all of it arrived and can be read, and none of it has ink.
+inline bool isBlank(const reader::PageSummary& page) {
+  return !page.inked && !page.brokenOff && page.lostBands == 0;
+}
+
 // Lines for people, and one JSON document whose schema docs/gdiview.md tells. `out` must outlive
 // the report.
 std::unique_ptr<InfoReport> textReport(std::ostream& out);
@@ -50,6 +56,8 @@ struct InfoOptions {
 };
 
 // Answers kSound, kFaulty when there are violations in what was shown or ahead of it, or kUnusable.
-int infoJob(JobInput& input, const InfoOptions& options, std::ostream& out, std::ostream& errors);
+// The report does not clear the progress line: both must not go to one terminal.
+int infoJob(JobInput& input, const InfoOptions& options, Progress& progress, std::ostream& out,
+            std::ostream& errors);
 
 }  // namespace gdi::gdiview

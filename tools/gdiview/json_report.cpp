@@ -28,6 +28,9 @@ ordered_json fieldsAsJson(reader::RecordKind kind, std::span<const std::uint8_t>
     if (!field.meaning.empty()) {
       entry["meaning"] = field.meaning;
     }
+    if (!field.remark.empty()) {
+      entry["note"] = field.remark;
+    }
   }
   return fields;
 }
@@ -100,6 +103,8 @@ class JsonReport : public InfoReport {
     ordered_json json = {{"kind", "page_summary"},
                          {"page", page.ordinal},
                          {"media", mediaName(page.record.mediaSize)},
+                         {"page_width", page.record.widthMicrometres},
+                         {"page_length", page.record.heightMicrometres},
                          {"bits_per_pixel", page.bitsPerPixel},
                          {"width_pixels", page.widthPixels()},
                          {"rows", page.summaryOf(reader::Ink::kBlack).rows},
@@ -113,7 +118,7 @@ class JsonReport : public InfoReport {
                               {"compressed_bytes", page.largestBandBytes}};
     }
     json["lost_bands"] = page.lostBands;
-    json["blank"] = !page.inked;
+    json["blank"] = isBlank(page);
     json["flagged_blank"] = page.flaggedBlank;
     json["broken_off"] = page.brokenOff;
     add(json);

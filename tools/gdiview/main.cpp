@@ -12,6 +12,7 @@
 
 #include "platform/standard_descriptors.h"
 #include "tools/gdiview/command_line.h"
+#include "tools/gdiview/prologue_bytes.h"
 
 namespace {
 
@@ -27,12 +28,15 @@ int run(CommandLine line) {
   if (!job.isOpen(std::cerr)) {
     return kUnusable;
   }
-  Progress progress(std::cerr, isatty(STDERR_FILENO) != 0, job.size());
+  // What info prints would run into the progress line of the same terminal.
+  const bool terminal =
+      isatty(STDERR_FILENO) != 0 && (line.command != Command::kInfo || isatty(STDOUT_FILENO) == 0);
+  Progress progress(std::cerr, terminal, job.size());
   switch (line.command) {
     case Command::kInfo:
-      return infoJob(job, line.info, std::cout, std::cerr);
+      return infoJob(job, line.info, progress, std::cout, std::cerr);
     case Command::kCheck:
-      return checkJob(job, line.check, std::cout, std::cerr);
+      return checkJob(job, line.check, progress, std::cout, std::cerr);
     case Command::kPng:
       return pngJob(job, line.png, progress, std::cout, std::cerr);
     case Command::kDiff:

@@ -8,8 +8,10 @@
 
 #include "reader/JobReader.h"
 #include "reader/counted.h"
+#include "reader/page_resolution.h"
 #include "tools/gdiview/FindingLines.h"
 #include "tools/gdiview/PagePainter.h"
+#include "tools/gdiview/escaped_text.h"
 #include "tools/gdiview/picture_file.h"
 
 namespace gdi::gdiview {
@@ -33,21 +35,31 @@ std::string description(const reader::Page& page) {
   return text.str();
 }
 
-// The pictures of one page; false, with a line, when one cannot be written. The progress line stays
-// while a picture is painted, which takes longer than reading the page did.
+// The pictures of one page, in the folder, which is made when it is missing; false, with a line,
+// when one cannot be written. Painting takes longer than reading the page did: its rows are the
+// progress.
 bool writePage(const reader::Page& page, const PngOptions& options, Progress& progress,
                std::ostream& out, std::ostream& errors) {
   const std::string name = "page-" + std::to_string(page.ordinal);
   PaintOptions paint;
   paint.reduction = options.reduction;
   paint.upright = isTurned(page, options.turned);
+  const double samplesPerInch =
+      static_cast<double>(reader::pixelsPerInchOf(page)) / options.reduction;
+  const std::size_t pictures = options.planes ? 1 + page.inks().size() : 1;
+  std::size_t painted = 0;
   const auto write = [&](const std::string& text, const std::string& file) {
     PagePainter painter(page, paint);
     const std::filesystem::path path = options.folder / (file + ".png");
     std::ostringstream trouble;
-    const bool written = writePicture(painter, options.reduction, path, trouble);
+    const auto tellRows = [&](std::uint32_t rows) {
+      progress.work(std::uint64_t{painted} * painter.height() + rows,
+                    std::uint64_t{pictures} * painter.height());
+    };
+    const bool written = writePicture(painter, samplesPerInch, path, trouble, tellRows);
+    ++painted;
     progress.clear();
-    out << text << (written ? ": " + path.string() : ", no picture") << '\n';
+    out << text << (written ? ": " + nameInLine(path.string()) : ", no picture") << '\n';
     errors << trouble.str();
     return written;
   };
@@ -55,6 +67,12 @@ bool writePage(const reader::Page& page, const PngOptions& options, Progress& pr
     progress.clear();
     out << description(page) << ", no picture\n";
     return true;
+  }
+  std::ostringstream trouble;
+  if (!makeFolder(options.folder, trouble)) {
+    progress.clear();
+    errors << trouble.str();
+    return false;
   }
   if (!write(description(page), name)) {
     return false;
@@ -73,9 +91,6 @@ bool writePage(const reader::Page& page, const PngOptions& options, Progress& pr
 
 int pngJob(JobInput& input, const PngOptions& options, Progress& progress, std::ostream& out,
            std::ostream& errors) {
-  if (!makeFolder(options.folder, errors)) {
-    return kUnusable;
-  }
   FindingLines lines(errors, input.name());
   const auto tell = [&](const reader::Finding& finding) {
     progress.clear();

@@ -19,7 +19,7 @@ namespace gdi::gdiview {
 enum class Turned : std::uint8_t { kNone, kBacks, kFronts, kAll };
 
 struct PngOptions {
-  std::filesystem::path folder;       // where page-1.png and so on go; made when missing
+  std::filesystem::path folder;       // where page-1.png and so on go; made for the first one
   std::uint32_t reduction = 1;        // pixels a sample, each way; > 0
   std::optional<std::uint32_t> page;  // this page alone, from 1
   bool planes = false;                // each plane too, as page-1-cyan.png and so on
@@ -27,7 +27,7 @@ struct PngOptions {
   std::optional<std::uint64_t> prologueBytes;
 };
 
-// Writes the pictures and a line a page to `out`, and what is wrong with the job to `errors`. What
+// Writes the pictures and a line a page to `out`, and the job's violations to `errors`. What
 // can be shown is shown. Answers kSound, kFaulty when the job has violations, or kUnusable when it
 // is none, when a picture cannot be written or the page that was asked for is not there.
 int pngJob(JobInput& input, const PngOptions& options, Progress& progress, std::ostream& out,

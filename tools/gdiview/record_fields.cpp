@@ -3,12 +3,10 @@
 
 #include "tools/gdiview/record_fields.h"
 
-#include <algorithm>
 #include <array>
 #include <cstdio>
 #include <string_view>
 
-#include "platform/unicode_text.h"
 #include "printer/format/big_endian.h"
 #include "printer/format/option_code_tables.h"
 #include "printer/format/solvane_date.h"
@@ -19,11 +17,6 @@ namespace gdi::gdiview {
 namespace {
 
 using Bytes = std::span<const std::uint8_t>;
-
-// In UTF-8: where characters of two bytes begin, and the first of them behind C2 that is no
-// control.
-constexpr std::uint8_t kFirstLeadByte = 0xC2;
-constexpr std::uint8_t kFirstPrintableBehindC2 = 0xA0;
 
 template <typename... Values>
 std::string formatted(const char* format, Values... values) {
@@ -36,40 +29,12 @@ std::string codeName(std::span<const NamedCode> table, std::uint8_t code) {
   return std::string(nameOfCode(table, code).value_or("unknown"));
 }
 
-std::string millimetres(std::uint32_t micrometres) {
-  return formatted("%.1f mm", micrometres / 1000.0);
+std::string inMillimetres(std::uint32_t micrometres) {
+  return millimetres(micrometres) + " mm";
 }
 
 Field constantAt(Bytes header, std::size_t offset) {
   return {"constant_" + std::to_string(offset), std::uint64_t{header[offset]}};
-}
-
-// Bytes of the character beyond ASCII that `text` begins with; 0 when it begins with another one, a
-// control or none.
-std::size_t printableBytes(std::string_view text) {
-  const bool control = text.starts_with('\xC2') && text.size() > 1 &&
-                       static_cast<std::uint8_t>(text[1]) < kFirstPrintableBehindC2;
-  if (control) {
-    return 0;
-  }
-  for (std::size_t length = 2; length <= std::min<std::size_t>(4, text.size()); ++length) {
-    if (static_cast<std::uint8_t>(text[0]) >= kFirstLeadByte && isUtf8(text.substr(0, length))) {
-      return length;
-    }
-  }
-  return 0;
-}
-
-std::string escapedByte(char character) {
-  constexpr std::string_view kNamed = "\r\n\t\"\\";
-  constexpr std::string_view kNames = "rnt\"\\";
-  constexpr std::uint8_t kDelete = 0x7F;
-  if (const std::size_t named = kNamed.find(character); named != std::string_view::npos) {
-    return {'\\', kNames[named]};
-  }
-  const auto byte = static_cast<std::uint8_t>(character);
-  return byte < ' ' || byte >= kDelete ? formatted("\\x%02x", unsigned{byte})
-                                       : std::string(1, character);
 }
 
 std::vector<Field> jobFields(Bytes header) {
@@ -114,8 +79,8 @@ std::vector<Field> pageFields(Bytes header) {
       constantAt(header, page_record::kConstant1Offset),
       {"number", record.number, "", "", "from 0"},
       {"bands", record.bandCount, "", "", "a plane, sometimes one too many"},
-      {"page_width", record.widthMicrometres, "µm", millimetres(record.widthMicrometres)},
-      {"page_length", record.heightMicrometres, "µm", millimetres(record.heightMicrometres)},
+      {"page_width", record.widthMicrometres, "µm", inMillimetres(record.widthMicrometres)},
+      {"page_length", record.heightMicrometres, "µm", inMillimetres(record.heightMicrometres)},
   };
 }
 
@@ -157,6 +122,14 @@ std::vector<Field> fieldsOf(reader::RecordKind kind, Bytes header) {
   return {};
 }
 
+std::string millimetres(std::uint32_t micrometres) {
+  constexpr std::uint32_t kMillimetre = 1000;
+  if (micrometres == 0) {
+    return "0";
+  }
+  return formatted(micrometres < kMillimetre ? "%.3f" : "%.1f", micrometres / 1000.0);
+}
+
 std::string dateText(std::uint32_t packedDate) {
   const NSCalendarDate date = dateWithSolvane(packedDate);
   return formatted("%04d-%02d-%02d %02d:%02d:%02d", date.year, date.month, date.day, date.hour,
@@ -196,25 +169,6 @@ std::string valueText(const Field& field) {
   const std::string& text = std::get<std::string>(field.value);
   const std::vector<std::uint8_t> bytes(text.begin(), text.end());
   return quoted(bytes);
-}
-
-std::string escaped(Bytes bytes) {
-  const std::string_view text(reinterpret_cast<const char*>(bytes.data()), bytes.size());
-  std::string answer;
-  for (std::size_t at = 0; at < text.size();) {
-    const std::size_t length = std::max<std::size_t>(1, printableBytes(text.substr(at)));
-    if (length > 1) {
-      answer += text.substr(at, length);
-    } else {
-      answer += escapedByte(text[at]);
-    }
-    at += length;
-  }
-  return answer;
-}
-
-std::string quoted(Bytes bytes) {
-  return std::string("\"").append(escaped(bytes)).append("\"");
 }
 
 }  // namespace gdi::gdiview

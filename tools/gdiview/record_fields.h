@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "reader/record_start.h"
+#include "tools/gdiview/escaped_text.h"
 
 namespace gdi::gdiview {
 
@@ -28,6 +29,8 @@ struct Field {
 // requires: header.size() is lengthOf(kind)
 std::vector<Field> fieldsOf(reader::RecordKind kind, std::span<const std::uint8_t> header);
 
+// "210.1"; with three digits behind the point below one millimetre, so that no length is "0.0".
+std::string millimetres(std::uint32_t micrometres);
 // "2026-11-15 21:54:36"
 std::string dateText(std::uint32_t packedDate);
 // "Fast", "Standard", "Fine" or nothing.
@@ -37,12 +40,7 @@ std::string mediaName(std::uint8_t code);
 // The value of one of fieldsOf() by its name, as valueText() has it.
 std::string fieldText(reader::RecordKind kind, std::span<const std::uint8_t> header,
                       std::string_view name);
-// The value as text: a number, or the text in quotes with what cannot be printed escaped.
+// The value as text: a number, or the text as quoted() has it.
 std::string valueText(const Field& field);
-// Bytes as text in one line: controls, quotes, backslashes and each byte that is of no whole
-// character in UTF-8 escaped as in C.
-std::string escaped(std::span<const std::uint8_t> bytes);
-// The same between quotes.
-std::string quoted(std::span<const std::uint8_t> bytes);
 
 }  // namespace gdi::gdiview

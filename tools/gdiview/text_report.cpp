@@ -32,6 +32,13 @@ std::string inParentheses(const std::string& text) {
   return text.empty() ? "" : std::string(" (").append(text).append(")");
 }
 
+const char* inkText(const reader::PageSummary& page) {
+  if (page.inked) {
+    return "not blank";
+  }
+  return isBlank(page) ? "blank" : "no ink in what can be read";
+}
+
 class TextReport : public InfoReport {
  public:
   explicit TextReport(std::ostream& out) : out_(out) {}
@@ -46,6 +53,10 @@ class TextReport : public InfoReport {
 
   // One for each kind of record.
   void operator()(const reader::Prologue& prologue) {
+    if (step_->step.bytes == 0) {
+      out_ << "offset " << step_->step.offset << ": no prologue\n";
+      return;
+    }
     heading("prologue") << ", "
                         << (prologue.asExpected ? "as long as Info.plist says"
                                                 : "found by searching for a record")
@@ -114,10 +125,12 @@ void TextReport::operator()(const reader::Band& band) {
 
 void TextReport::page(const reader::PageSummary& page) {
   out_ << "page " << page.ordinal << ": " << mediaName(page.record.mediaSize) << ", "
+       << millimetres(page.record.widthMicrometres) << " x "
+       << millimetres(page.record.heightMicrometres) << " mm, "
        << counted(page.inks().size(), "plane") << " of " << counted(page.bitsPerPixel, "bit")
        << inParentheses(qualityName(page.bitsPerPixel)) << ", " << page.widthPixels() << " x "
        << page.summaryOf(reader::Ink::kBlack).rows << " pixels, rows of "
-       << counted(page.rowBits, "bit") << ", " << (page.inked ? "not blank" : "blank")
+       << counted(page.rowBits, "bit") << ", " << inkText(page)
        << (page.flaggedBlank ? ", flagged as blank" : "") << (page.brokenOff ? ", broken off" : "")
        << '\n';
   for (const reader::Ink ink : page.inks()) {
