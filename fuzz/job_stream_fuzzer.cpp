@@ -92,7 +92,7 @@ void readPages(const std::string& bytes, const Walked& walked) {
                page->rowBits == summary.rowBits && page->brokenOff == summary.brokenOff &&
                page->compressedBytes == summary.compressedBytes,
            "a page is read as it was walked over");
-    expect(page->bandHeaders.size() == page->bandCount, "every band record is kept");
+    expect(page->bandRecords.size() == page->bandCount, "every band record is kept");
     compressed += page->compressedBytes;
     paint(*page, bytes.size() % 2 != 0);
   }
@@ -126,7 +126,8 @@ void tell(const std::string& bytes, const Walked& walked) {
   JobInput job(stream, "JOB");
   gdi::gdiview::InfoOptions options;
   options.json = true;
-  const int status = gdi::gdiview::infoJob(job, options, out, errors);
+  gdi::gdiview::Progress progress(errors, false);
+  const int status = gdi::gdiview::infoJob(job, options, progress, out, errors);
   const int faulty = walked.totals.violations > 0 ? gdi::gdiview::kFaulty : gdi::gdiview::kSound;
   expect(status == (walked.readable ? faulty : gdi::gdiview::kUnusable),
          "violations and nothing else make a job faulty");
