@@ -5,6 +5,8 @@
 
 #include <algorithm>
 
+#include "reader/page_resolution.h"
+
 namespace gdi::reader {
 
 std::uint32_t Page::rows() const {
@@ -29,7 +31,7 @@ std::uint64_t PageSummary::bytesOfRows() const {
 }
 
 std::uint32_t PageSummary::widthPixels() const {
-  const std::uint64_t onPaper = pixelsOnPaper(record.widthMicrometres);
+  const std::uint64_t onPaper = pixelsOnPaper(record.widthMicrometres, pixelsPerInchOf(*this));
   const std::uint32_t most = rowBits < kRowSlackBits ? 0 : (rowBits - kRowSlackBits) / bitsPerPixel;
   const std::uint32_t nextShorterRow = kRowBitsMultiple + kRowSlackBits;
   const std::uint32_t least =

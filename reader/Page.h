@@ -68,8 +68,8 @@ struct PageSummary {
   // Bytes that the planes' rows take when they are not compressed.
   [[nodiscard]] std::uint64_t bytesOfRows() const;
   // Pixels of a row that belong to the page. A row is padded, and its padding only bounds where the
-  // pixels end. Within these bounds it is the width on paper at 600 dots an inch; when the paper is
-  // more than a point narrower than the least such width, it is all that the row has room for.
+  // pixels end. Within these bounds it is the width on paper at pixelsPerInchOf(); when the paper
+  // is more than a point narrower than the least such width, it is all that the row has room for.
   [[nodiscard]] std::uint32_t widthPixels() const;
 };
 

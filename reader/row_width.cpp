@@ -27,8 +27,8 @@ std::optional<std::uint32_t> rowBitsOnPaper(const PageRecord& record, unsigned b
 
 }  // namespace
 
-std::uint64_t pixelsOnPaper(std::uint32_t micrometres) {
-  return (std::uint64_t{micrometres} * kPixelsPerInch + kMicrometresPerInch / 2) /
+std::uint64_t pixelsOnPaper(std::uint32_t micrometres, std::uint32_t pixelsPerInch) {
+  return (std::uint64_t{micrometres} * pixelsPerInch + kMicrometresPerInch / 2) /
          kMicrometresPerInch;
 }
 

@@ -16,7 +16,8 @@ inline constexpr std::uint32_t kPixelsPerInch = 600;
 inline constexpr std::uint32_t kPixelsPerPoint = 9;
 
 // A length on paper in pixels, to the nearest.
-std::uint64_t pixelsOnPaper(std::uint32_t micrometres);
+std::uint64_t pixelsOnPaper(std::uint32_t micrometres,
+                            std::uint32_t pixelsPerInch = kPixelsPerInch);
 
 // Of the lengths with the page record's low 16 bits, 1 to kMaxRowBits, the one that is nearest to
 // the paper's width; the shortest when the paper is of no width or wider than any row.

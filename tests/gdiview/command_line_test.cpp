@@ -59,6 +59,15 @@ TEST_F(CommandLineOfGdiview, EachHelpIsPrintedAndExitsWith0) {
   }
 }
 
+TEST_F(CommandLineOfGdiview, CheckListsItsRulesWithoutAJob) {
+  EXPECT_EQ(run("check --rules"), 0);
+  const std::string rules = out();
+  EXPECT_TRUE(rules.starts_with("tag             every record begins with one of the five tags\n"));
+  EXPECT_NE(rules.find("\ncodec-habit     note: "), std::string::npos);
+  EXPECT_EQ(std::count(rules.begin(), rules.end(), '\n'), 43);
+  EXPECT_EQ(errors(), "");
+}
+
 TEST_F(CommandLineOfGdiview, TheVersionIsPrinted) {
   EXPECT_EQ(run("--version"), 0);
   EXPECT_EQ(out().find("gdiview "), 0U);

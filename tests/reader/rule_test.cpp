@@ -84,7 +84,8 @@ TEST(Rules, AreAllListedInTheDocument) {
   std::ifstream file(GDI_JOB_STREAM_DOCUMENT);
   const std::string document((std::istreambuf_iterator<char>(file)), {});
   for (const RuleText& rule : allRules()) {
-    const std::string listed = std::string("`").append(rule.name).append("`");
+    std::string listed("| `");
+    listed.append(rule.name).append("` | ").append(rule.sentence).append(" |\n");
     EXPECT_NE(document.find(listed), std::string::npos) << listed;
   }
 }

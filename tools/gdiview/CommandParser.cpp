@@ -4,9 +4,12 @@
 #include "tools/gdiview/CommandParser.h"
 
 #include <algorithm>
+#include <iomanip>
 #include <memory>
+#include <sstream>
 #include <vector>
 
+#include "reader/rules.h"
 #include "tools/gdiview/option_values.h"
 #include "tools/gdiview/prologue_bytes.h"
 
@@ -14,8 +17,8 @@ namespace gdi::gdiview {
 
 namespace {
 
-constexpr char kJobHelp[] = "The job stream: a file, or - for standard input";
-constexpr char kExitStatus[] =
+constexpr const char* kJobHelp = "The job stream: a file, or - for standard input";
+constexpr const char* kExitStatus =
     "Exit status: 0 the job keeps the format, 1 it violates it, 2 it is no job stream or "
     "something\n"
     "cannot be read or written.";
@@ -46,6 +49,18 @@ std::string ignorableFields() {
     length = (breaks ? 0 : length + 1) + name.size();
   }
   return text;
+}
+
+// A line a rule: its name, whether its breach is a note alone, and what holds.
+std::string rulesText() {
+  std::ostringstream text;
+  for (const reader::RuleText& rule : reader::allRules()) {
+    text << std::left << std::setw(16) << rule.name << (rule.remark ? "note: " : "")
+         << rule.sentence << '\n';
+  }
+  std::string lines = text.str();
+  lines.pop_back();  // the parser adds one
+  return lines;
 }
 
 }  // namespace
@@ -114,10 +129,13 @@ void CommandParser::addCheck() {
   addJob(command);
   command.add_flag("-q,--quiet", line_.check.quiet,
                    "Violations alone, without notes and without the last line");
+  command.add_flag_callback(
+      "--rules",
+      [] { throw CLI::CallForVersion(rulesText(), static_cast<int>(CLI::ExitCodes::Success)); },
+      "List the rules, without a JOB");
   addResources(command);
   command.footer(std::string("One line a violation: JOB: offset N: RECORD: RULE: what is there. "
-                             "A line\nwith \"note\" is no violation. The manual page gdiview(1) "
-                             "tells where the rules are listed.\n\n") +
+                             "A line\nwith \"note\" is no violation.\n\n") +
                  kExitStatus);
 }
 

@@ -13,6 +13,7 @@
 #include "tools/gdiview/DifferencePainter.h"
 #include "tools/gdiview/FindingLines.h"
 #include "tools/gdiview/OtherSteps.h"
+#include "tools/gdiview/escaped_text.h"
 #include "tools/gdiview/page_difference.h"
 #include "tools/gdiview/picture_file.h"
 #include "tools/gdiview/record_fields.h"
@@ -98,7 +99,7 @@ bool writeDifference(const reader::Page& a, const reader::Page& b, const DiffOpt
   progress.clear();
   errors << trouble.str();
   if (written) {
-    out << "page " << a.ordinal << ": " << path.string() << '\n';
+    out << "page " << a.ordinal << ": " << nameInLine(path.string()) << '\n';
   }
   return written;
 }

@@ -15,7 +15,7 @@ namespace {
 
 using nlohmann::ordered_json;
 
-constexpr char kSchema[] = "gdiview-info-1";
+constexpr const char* kSchema = "gdiview-info-1";
 
 ordered_json fieldsAsJson(reader::RecordKind kind, std::span<const std::uint8_t> header) {
   ordered_json fields = ordered_json::object();
@@ -47,13 +47,13 @@ struct RecordAsJson {
             {"as_expected", prologue.asExpected},
             {"text", escaped(prologue.start)}};
   }
-  ordered_json operator()(const reader::JobRecord&) const {
+  ordered_json operator()(const reader::JobRecord& /*record*/) const {
     return typed("job", reader::RecordKind::kJob);
   }
-  ordered_json operator()(const reader::HostRecord&) const {
+  ordered_json operator()(const reader::HostRecord& /*record*/) const {
     return typed("host", reader::RecordKind::kHost);
   }
-  ordered_json operator()(const reader::PageRecord&) const {
+  ordered_json operator()(const reader::PageRecord& /*record*/) const {
     ordered_json page = typed("page", reader::RecordKind::kPage);
     page["page"] = job.page;
     return page;
@@ -74,16 +74,18 @@ struct RecordAsJson {
     json["decodes"] = job.sound;
     return json;
   }
-  ordered_json operator()(const reader::EndOfJob&) const { return {{"kind", "end_of_job"}}; }
-  ordered_json operator()(const reader::Gap&) const { return {{"kind", "gap"}}; }
-  ordered_json operator()(const reader::BrokenOff&) const {
+  ordered_json operator()(const reader::EndOfJob& /*record*/) const {
+    return {{"kind", "end_of_job"}};
+  }
+  ordered_json operator()(const reader::Gap& /*record*/) const { return {{"kind", "gap"}}; }
+  ordered_json operator()(const reader::BrokenOff& /*record*/) const {
     return {{"kind", "broken_off"}, {"text", brokenOffText(job)}};
   }
 };
 
 class JsonReport : public InfoReport {
  public:
-  JsonReport(std::ostream& out, const std::string& jobName) : out_(out), jobName_(jobName) {}
+  JsonReport(std::ostream& out, std::string jobName) : out_(out), jobName_(std::move(jobName)) {}
 
   void record(const reader::JobStep& job) override {
     ordered_json json = std::visit(RecordAsJson{job}, job.step.record);

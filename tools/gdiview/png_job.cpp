@@ -59,7 +59,12 @@ bool writePage(const reader::Page& page, const PngOptions& options, Progress& pr
     const bool written = writePicture(painter, samplesPerInch, path, trouble, tellRows);
     ++painted;
     progress.clear();
-    out << text << (written ? ": " + nameInLine(path.string()) : ", no picture") << '\n';
+    out << text;
+    if (written) {
+      out << ": " << nameInLine(path.string()) << '\n';
+    } else {
+      out << ", no picture\n";
+    }
     errors << trouble.str();
     return written;
   };

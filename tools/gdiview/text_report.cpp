@@ -66,22 +66,22 @@ class TextReport : public InfoReport {
            << (prologue.start.size() < step_->step.bytes ? " ...\n" : "\n");
     }
   }
-  void operator()(const reader::JobRecord&) {
+  void operator()(const reader::JobRecord& /*record*/) {
     heading("job record") << '\n';
     fields(reader::RecordKind::kJob);
   }
-  void operator()(const reader::HostRecord&) {
+  void operator()(const reader::HostRecord& /*record*/) {
     heading("host record") << '\n';
     fields(reader::RecordKind::kHost);
   }
-  void operator()(const reader::PageRecord&) {
+  void operator()(const reader::PageRecord& /*record*/) {
     heading("page record") << ": page " << step_->page << '\n';
     fields(reader::RecordKind::kPage);
   }
   void operator()(const reader::Band& band);
-  void operator()(const reader::EndOfJob&) { heading("end-of-job mark") << '\n'; }
-  void operator()(const reader::Gap&) { heading("no record") << '\n'; }
-  void operator()(const reader::BrokenOff&) {
+  void operator()(const reader::EndOfJob& /*record*/) { heading("end-of-job mark") << '\n'; }
+  void operator()(const reader::Gap& /*record*/) { heading("no record") << '\n'; }
+  void operator()(const reader::BrokenOff& /*record*/) {
     out_ << "offset " << step_->step.offset << ": " << brokenOffText(*step_) << '\n';
   }
 
