@@ -11,6 +11,7 @@
 
 #include "tests/gdiview/small_jobs.h"
 #include "tests/jobs/sound_page.h"
+#include "tests/support/FailingInput.h"
 
 namespace gdi::gdiview {
 namespace {
@@ -180,7 +181,7 @@ TEST_F(CheckJob, AnEmptyInputIsToldAsSuch) {
 TEST_F(CheckJob, AnInputThatCannotBeReadOnIsUnusable) {
   Bytes bytes = jobWithAViolation().bytes();
   bytes.resize(kPage2Offset);
-  FailingInput stream(bytes);
+  test::FailingInput stream(bytes);
   EXPECT_EQ(run(stream, lines_), kUnusable);
   EXPECT_EQ(lines_.str(), kViolation);
   EXPECT_EQ(errors_.str(), "gdiview: JOB: the input cannot be read beyond offset 432\n");

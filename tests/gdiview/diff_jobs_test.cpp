@@ -11,6 +11,7 @@
 
 #include "tests/gdiview/png_reader.h"
 #include "tests/gdiview/small_jobs.h"
+#include "tests/support/FailingInput.h"
 #include "tests/support/TemporaryFolder.h"
 
 namespace gdi::gdiview {
@@ -446,7 +447,7 @@ TEST_F(DiffJobs, TwoUnusableInputsAreTwoLines) {
 TEST_F(DiffJobs, AnInputThatCannotBeReadOnIsUnusable) {
   Bytes bytes = twoPages().bytes();
   bytes.resize(kPage2Offset);
-  FailingInput failing(bytes);
+  test::FailingInput failing(bytes);
   std::istringstream sound = twoPages().stream();
   EXPECT_EQ(run(sound, failing), kUnusable);
   EXPECT_NE(errors_.str().find("gdiview: TWO: the input cannot be read beyond offset 432\n"),

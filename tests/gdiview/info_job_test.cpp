@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/gdiview/info_job_fixture.h"
+#include "tests/support/FailingInput.h"
 
 namespace gdi::gdiview {
 namespace {
@@ -208,7 +209,7 @@ TEST_F(InfoJob, WithoutTheEndOfJobMarkThePageIsWhole) {
 TEST_F(InfoJob, AnInputThatCannotBeReadOnIsToldWithWhatWasRead) {
   Bytes bytes = onePage().bytes();
   bytes.resize(kBandOffset + 32 + 10);
-  FailingInput stream(bytes);
+  test::FailingInput stream(bytes);
   EXPECT_EQ(run(stream), kUnusable);
   EXPECT_EQ(errors_.str(), "gdiview: JOB: the input cannot be read beyond offset 384\n");
   EXPECT_NE(out_.str().find(kPageLines + "page 1: "), std::string::npos);
@@ -216,7 +217,7 @@ TEST_F(InfoJob, AnInputThatCannotBeReadOnIsToldWithWhatWasRead) {
 }
 
 TEST_F(InfoJob, AnInputThatCannotBeReadAtAllPrintsNothing) {
-  FailingInput stream({});
+  test::FailingInput stream({});
   EXPECT_EQ(run(stream), kUnusable);
   EXPECT_EQ(out_.str(), "");
   EXPECT_EQ(errors_.str(), "gdiview: JOB: the input cannot be read beyond offset 0\n");

@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/gdiview/info_job_fixture.h"
+#include "tests/support/FailingInput.h"
 
 namespace gdi::gdiview {
 namespace {
@@ -42,7 +43,7 @@ TEST_F(InfoJson, HasAPagesSizeOnPaperAndWhatIsToBeKnownOfAField) {
 TEST_F(InfoJson, AnInputThatCannotBeReadOnIsToldInJsonToo) {
   Bytes bytes = onePage().bytes();
   bytes.resize(kBandOffset + 32 + 10);
-  FailingInput stream(bytes);
+  test::FailingInput stream(bytes);
   EXPECT_EQ(run(stream), kUnusable);
   EXPECT_NE(out_.str().find(R"("text":"the input cannot be read on")"), std::string::npos);
 }

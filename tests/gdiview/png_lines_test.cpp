@@ -10,6 +10,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/gdiview/png_job_fixture.h"
+#include "tests/support/FailingInput.h"
 
 namespace gdi::gdiview {
 namespace {
@@ -63,7 +64,7 @@ TEST_F(PngLines, ANoteIsLeftToCheck) {
 TEST_F(PngLines, AnInputThatCannotBeReadOnIsTold) {
   Bytes bytes = twoPages().bytes();
   bytes.resize(kPage2Offset);
-  FailingInput stream(bytes);
+  test::FailingInput stream(bytes);
   EXPECT_EQ(run(stream, lines_), kUnusable);
   EXPECT_NE(errors_.str().find("gdiview: JOB: the input cannot be read beyond offset 432\n"),
             std::string::npos);

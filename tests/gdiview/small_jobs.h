@@ -4,9 +4,8 @@
 // Job streams of a few pixels for the tests of gdiview's commands.
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
-#include <istream>
-#include <streambuf>
 #include <string>
 
 #include "tests/jobs/job_builder.h"
@@ -44,19 +43,5 @@ inline jobtest::JobBuilder twoPages(const std::string& name = "Report", std::uin
   job.band(Ink::kYellow, jobtest::kFirst | jobtest::kLast, {rowOf(0)});
   return job.end();
 }
-
-// An input that gives these bytes and then cannot be read.
-class FailingInput : private std::streambuf, public std::istream {
- public:
-  explicit FailingInput(const jobtest::Bytes& bytes)
-      : std::istream(static_cast<std::streambuf*>(this)), bytes_(bytes.begin(), bytes.end()) {
-    setg(bytes_.data(), bytes_.data(), bytes_.data() + bytes_.size());
-  }
-
- private:
-  std::streambuf::int_type underflow() override { throw std::ios::failure("the disk is gone"); }
-
-  std::string bytes_;
-};
 
 }  // namespace gdi::gdiview

@@ -6,7 +6,6 @@
 #include <numeric>
 #include <optional>
 #include <random>
-#include <streambuf>
 #include <string>
 #include <vector>
 
@@ -16,6 +15,7 @@
 #include "tests/jobs/read_job.h"
 #include "tests/jobs/sound_page.h"
 #include "tests/reader/breaches.h"
+#include "tests/support/FailingInput.h"
 
 namespace gdi::reader {
 namespace {
@@ -290,24 +290,10 @@ TEST(HostileJob, AToldLengthThatIsWrongMakesNoDifference) {
   }
 }
 
-// Gives some bytes and then cannot be read.
-class FailingBuffer : public std::streambuf {
- public:
-  explicit FailingBuffer(const Bytes& bytes) : bytes_(bytes.begin(), bytes.end()) {
-    setg(bytes_.data(), bytes_.data(), bytes_.data() + bytes_.size());
-  }
-
- private:
-  int_type underflow() override { throw std::ios::failure("the input is gone"); }
-
-  std::string bytes_;
-};
-
 TEST(HostileJob, AnInputThatFailsAnywhereIsAFailureAndNoViolation) {
   const Bytes whole = smallColorJob();
   for (std::size_t length = 0; length <= whole.size(); ++length) {
-    FailingBuffer buffer(firstBytes(whole, length));
-    std::istream input(&buffer);
+    test::FailingInput input(firstBytes(whole, length));
     const Walked walked = walk(input);
     EXPECT_TRUE(walked.failed) << length;
     EXPECT_TRUE(walked.findings.empty()) << length << ": " << lineOf(walked.findings[0]);
@@ -317,8 +303,7 @@ TEST(HostileJob, AnInputThatFailsAnywhereIsAFailureAndNoViolation) {
 }
 
 TEST(HostileJob, WhatWasReadOfAPageBeforeTheInputFailsIsGiven) {
-  FailingBuffer buffer(firstBytes(smallColorJob(), kMagentaAt + 10));
-  std::istream input(&buffer);
+  test::FailingInput input(firstBytes(smallColorJob(), kMagentaAt + 10));
   const ReadJob read = readJob(input);
   EXPECT_TRUE(read.failed);
   EXPECT_EQ(read.told(), "");
