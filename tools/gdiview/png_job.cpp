@@ -84,8 +84,9 @@ bool writePage(const reader::Page& page, const PngOptions& options, Progress& pr
   }
   for (const reader::Ink ink : options.planes ? page.inks() : std::span<const reader::Ink>()) {
     paint.separation = ink;
-    const std::string plane = nameOf(ink);
-    if (!write("page " + std::to_string(page.ordinal) + ", " + plane, name + "-" + plane)) {
+    std::string text("page ");
+    text.append(std::to_string(page.ordinal)).append(", ").append(nameOf(ink));
+    if (!write(text, std::string(name).append("-").append(nameOf(ink)))) {
       return false;
     }
   }

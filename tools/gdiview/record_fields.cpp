@@ -166,7 +166,7 @@ std::string valueText(const Field& field) {
   if (const auto* number = std::get_if<std::uint64_t>(&field.value)) {
     return std::to_string(*number);
   }
-  const std::string& text = std::get<std::string>(field.value);
+  const auto& text = std::get<std::string>(field.value);
   const std::vector<std::uint8_t> bytes(text.begin(), text.end());
   return quoted(bytes);
 }
