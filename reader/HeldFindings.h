@@ -4,7 +4,7 @@
 // Findings kept back until it is known whether each of them is a fault or all come from one.
 #pragma once
 
-#include <cstddef>
+#include <cstdint>
 #include <utility>
 #include <vector>
 
@@ -16,33 +16,43 @@ class HeldFindings {
  public:
   explicit HeldFindings(FindingSink sink) : sink_(std::move(sink)) {}
 
-  // Keeps a finding back; tells it when findings are no longer kept back.
+  // Keeps a finding back, or tells it once findings have been told. Of many more than a sound page
+  // has bands only the first are kept, and the others are counted.
   void add(Finding finding) {
-    held_.push_back(std::move(finding));
-    if (released_ || held_.size() > kMostHeld) {
-      release();
+    ++count_;
+    if (released_) {
+      sink_(finding);
+    } else if (held_.size() < kMostHeld) {
+      held_.push_back(std::move(finding));
     }
   }
   // Each is a fault: tells them, and from now on every one at once.
   void release() {
     released_ = true;
+    const std::uint64_t more = count_ - held_.size();
+    if (!held_.empty() && more > 0) {
+      held_.back().text.append(", and ").append(std::to_string(more)).append(" bands more like it");
+    }
     for (const Finding& finding : std::exchange(held_, {})) {
       sink_(finding);
     }
   }
-  // All come from one fault, which is told in their place.
-  void replaceBy(const Finding& finding) {
+  // All come from another fault, which is told.
+  void drop() {
+    released_ = true;
     held_.clear();
-    sink_(finding);
   }
 
-  [[nodiscard]] std::size_t count() const { return held_.size(); }
+  // Added so far.
+  [[nodiscard]] std::uint64_t count() const { return count_; }
+  [[nodiscard]] bool released() const { return released_; }
 
  private:
   static constexpr std::size_t kMostHeld = 1024;
 
   FindingSink sink_;
   std::vector<Finding> held_;
+  std::uint64_t count_ = 0;
   bool released_ = false;
 };
 

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The rasterToGDI authors
 // SPDX-License-Identifier: Apache-2.0
 
-// A job stream read page by page, each page with its planes. Occupies the compressed bands of one
-// page.
+// A job stream read page by page, each page with its planes. Occupies the band records and
+// the compressed bands of one page: a few times the bytes that came of it.
 #pragma once
 
 #include <cstdint>

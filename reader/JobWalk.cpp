@@ -59,7 +59,7 @@ std::optional<JobStep> JobWalk::next() {
     endPage(job);
   }
   const auto* band = std::get_if<Band>(&job.step.record);
-  if (page_ && missesPageRecord(job)) {
+  if (missesPageRecord(job) && page_) {
     endPage(job);
   }
   totals_.compressedBytes += band != nullptr ? band->data.size() : 0;
@@ -76,6 +76,11 @@ std::optional<JobStep> JobWalk::next() {
     return job;
   }
   tellFlaws(job, nameOf(job.step));
+  if (std::holds_alternative<EndOfJob>(job.step.record)) {
+    if (std::exchange(pagesOfJob_, 0) == 0 && job.step.flaws.empty()) {
+      tell({job.step.offset, Rule::kNoPages, nameOf(job.step), "the job has no page"});
+    }
+  }
   if (const auto* record = std::get_if<JobRecord>(&job.step.record)) {
     bitsPerPixel_.reset();
     if (isBitsPerPixel(record->bitsPerPixel)) {
@@ -84,6 +89,7 @@ std::optional<JobStep> JobWalk::next() {
     pagesOfJob_ = 0;
     nextNumber_ = 0;
     numberUnknown_ = false;
+    numberBehindWrongOne_.reset();
     if (totals_.job.empty()) {
       totals_.job = job.step.header;
     }
@@ -95,13 +101,14 @@ std::optional<JobStep> JobWalk::next() {
   return job;
 }
 
-// What comes behind a page's last band, and is neither a page nor the job's end, is of a page whose
-// record is damaged or missing.
+// What comes ahead of the first page or behind a page's last band, and is no record of the job, is
+// of a page whose record is damaged or missing.
 bool JobWalk::missesPageRecord(JobStep& job) {
-  const bool damaged = std::holds_alternative<Gap>(job.step.record) && page_->closed() &&
-                       job.step.bytes >= page_record::kLength;
-  const bool missing = std::holds_alternative<Band>(job.step.record) && page_->complete();
-  if (missing) {
+  const bool damaged = std::holds_alternative<Gap>(job.step.record) &&
+                       (!page_ || page_->closed()) && job.step.bytes >= page_record::kLength;
+  const bool missing =
+      std::holds_alternative<Band>(job.step.record) && (!page_ || page_->complete());
+  if (missing && page_) {
     job.step.flaws.insert(
         job.step.flaws.begin(),
         {0, Rule::kRecordOrder,
@@ -131,10 +138,15 @@ void JobWalk::startPage(const PageRecord& record, JobStep& job) {
 }
 
 void JobWalk::checkNumber(const PageRecord& record, std::uint64_t offset) {
-  const std::uint16_t expected = std::exchange(numberUnknown_, false) ? record.number : nextNumber_;
+  const auto behindThatTold = std::exchange(numberBehindWrongOne_, std::nullopt);
+  const bool unknown = std::exchange(numberUnknown_, false) || behindThatTold == record.number;
+  const std::uint16_t expected = unknown ? record.number : nextNumber_;
   nextNumber_ = static_cast<std::uint16_t>(record.number + 1);
   numberLeftOut_ =
       pagesOfJob_ >= kFirstFillerPage && record.number == static_cast<std::uint16_t>(expected + 1);
+  if (record.number != expected) {
+    numberBehindWrongOne_ = static_cast<std::uint16_t>(expected + 1);
+  }
   if (record.number != expected && !numberLeftOut_) {
     tell({offset + page_record::kPageNumberOffset, Rule::kPageNumber,
           "page " + std::to_string(totals_.pages),

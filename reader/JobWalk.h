@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: Apache-2.0
 
 // The walk through a whole job: each record in its place, held against the format as it comes.
-// Occupies the memory of one record, whatever the stream's length.
+// Occupies the memory of one record or, where a band's length lies, of what is searched for its end:
+// at most a few times the longest band, whatever the stream's length.
 #pragma once
 
 #include <cstdint>
@@ -70,6 +71,8 @@ class JobWalk {
   std::uint32_t pagesOfJob_ = 0;  // totals_ may count those of several jobs
   std::uint16_t nextNumber_ = 0;
   bool numberUnknown_ = false;  // of the next page: the record of one ahead of it is not there
+  // What the next page's number may be if that of the page before was wrong.
+  std::optional<std::uint16_t> numberBehindWrongOne_;
   bool numberLeftOut_ = false;  // by the page that is under way
 };
 

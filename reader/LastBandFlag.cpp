@@ -12,6 +12,9 @@ void LastBandFlag::take(const Seen& band) {
   };
   told_ = false;
   trailers_.clear();
+  if (onBlack_) {
+    sink_(*std::exchange(onBlack_, std::nullopt));
+  }
   if (early_) {
     sink_(*std::exchange(early_, std::nullopt));
   } else if (closed_) {
@@ -19,8 +22,14 @@ void LastBandFlag::take(const Seen& band) {
   }
   closed_ = band.set && !band.notItsPlane;
   if (band.set && band.notItsPlane) {
-    tell(band.flagsOffset,
-         std::string("the last band of such a page is ").append(nameOf(*band.notItsPlane)));
+    const std::string text =
+        std::string("the last band of such a page is ").append(nameOf(*band.notItsPlane));
+    if (band.ink == Ink::kBlack) {
+      onBlack_ = Finding{band.flagsOffset, Rule::kLastFlag, band.record, text};
+      told_ = true;
+    } else {
+      tell(band.flagsOffset, text);
+    }
   } else if (band.set && band.early) {
     early_ = Finding{band.flagsOffset, Rule::kLastFlag, band.record,
                      "the flag of the page's last band is set, and more bands follow"};
@@ -35,7 +44,10 @@ void LastBandFlag::tellTrailer(Finding finding) {
   }
 }
 
-void LastBandFlag::finish() {
+void LastBandFlag::finish(bool planesAreWrong) {
+  if (onBlack_ && !planesAreWrong) {
+    sink_(*onBlack_);
+  }
   for (const Finding& finding : std::exchange(trailers_, {})) {
     sink_(finding);
   }

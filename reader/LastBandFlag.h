@@ -25,6 +25,7 @@ class LastBandFlag {
     std::uint64_t bandOffset = 0;
     std::uint64_t flagsOffset = 0;
     std::string record;  // its name
+    Ink ink = Ink::kBlack;
     bool set = false;
     // The plane that the page's last band is of, if this one is of another.
     std::optional<Ink> notItsPlane = std::nullopt;
@@ -37,20 +38,21 @@ class LastBandFlag {
   [[nodiscard]] bool closed() const { return closed_; }
   // It came early: it is the page's last one only if no band follows.
   [[nodiscard]] bool doubtful() const { return early_.has_value(); }
-  // Something was told of the flag of the band taken last: its trailer is as wrong.
-  [[nodiscard]] bool told() const { return told_; }
 
   // What is wrong with the trailer of the band taken last; dropped if its flag was set too early.
   void tellTrailer(Finding finding);
-  // No band follows.
-  void finish();
+  // The flag is set on a band of black, whose plane cannot have it, and no band has followed.
+  [[nodiscard]] bool closedByBlack() const { return onBlack_.has_value(); }
+  // No band follows. planesAreWrong: the page's number of planes is, as is told.
+  void finish(bool planesAreWrong);
 
  private:
   FindingSink sink_;
   bool closed_ = false;
-  bool told_ = false;
-  std::optional<Finding> early_;   // what to tell of the flag if a band follows
-  std::vector<Finding> trailers_;  // what to tell if none does
+  bool told_ = false;               // of the flag of the band taken last: its trailer is as wrong
+  std::optional<Finding> onBlack_;  // what to tell of black's flag, unless the page is black
+  std::optional<Finding> early_;    // what to tell of the flag if a band follows
+  std::vector<Finding> trailers_;   // what to tell if none does
 };
 
 }  // namespace gdi::reader

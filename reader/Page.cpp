@@ -17,6 +17,13 @@ std::uint32_t Page::rows() const {
   return rows;
 }
 
+bool PageSummary::isColor() const {
+  const bool planesKnown = record.channels == 1 || record.channels == kInkCount;
+  return planesKnown ? record.channels == kInkCount : std::ranges::any_of(kInks, [this](Ink ink) {
+    return ink != Ink::kBlack && summaryOf(ink).bands > 0;
+  });
+}
+
 std::span<const Ink> PageSummary::inks() const {
   const std::span<const Ink> all(kInks);
   return isColor() ? all : all.subspan(indexOf(Ink::kBlack));

@@ -57,7 +57,8 @@ struct PageSummary {
   bool stepsLeftOut = false;  // it ended as a page of 256 k + 1 rows does
   std::array<PlaneSummary, kInkCount> planeSummaries;  // indexed by indexOf(ink)
 
-  [[nodiscard]] bool isColor() const { return record.channels > 1; }
+  // By the page record or, where that tells no number of planes that exists, by the bands.
+  [[nodiscard]] bool isColor() const;
   // The planes of a page, in the order of kInks: all four or black alone.
   [[nodiscard]] std::span<const Ink> inks() const;
   // The plane that the page's last band is of.

@@ -18,7 +18,7 @@ PageAudit::PageAudit(const PageRecord& record, std::uint32_t ordinal, std::uint6
       recordName_(pageName_),
       rowLength_(record, bitsPerPixel),
       rowsTold_(rowsToldBy(record)),
-      order_(bandsFor(rowsTold_.rows)),
+      order_(sink_, bandsFor(rowsTold_.rows)),
       lastFlag_(sink_),
       otherRowBits_(sink_),
       otherPlanes_(sink_) {
@@ -65,6 +65,8 @@ void PageAudit::addGap(std::uint64_t bytes) {
   const std::uint64_t bands = bytes / (band_record::kLength + pc4sc4::kBandAlignment);
   end_.strayRows += bands * kBandHeight;
   end_.lastBandUnknown = end_.lastBandUnknown || bands > 0;
+  gapHadBands_ = gapHadBands_ || bands > 0;
+  order_.pardon(bands);
 }
 
 bool PageAudit::complete() const {
@@ -116,12 +118,15 @@ void PageAudit::addMisplacedBand(const Band& band, std::optional<Ink> ink) {
   if (ink || manyPlanes_) {
     end_.strayRows += kBandHeight;
     end_.lastBandUnknown = end_.lastBandUnknown || manyPlanes_;
+    order_.pardon(1);
   }
 }
 
 void PageAudit::checkPlace(const Band& band, BandPlace place) {
   checkHeight(band.record, place);
-  checkOrder(place);
+  if (summary_.isColor()) {
+    order_.take(place, bandOffset_, recordName_);
+  }
   checkRowBits(band.record);
   checkFlags(band.record, place);
 }
@@ -156,25 +161,15 @@ void PageAudit::checkHeight(const BandRecord& record, BandPlace place) {
   }
 }
 
-// The order depends on the page's rows: nobody knows it where the page record contradicts itself.
-void PageAudit::checkOrder(BandPlace place) {
-  const std::optional<Ink> expected = order_.expected();
-  if (!summary_.isColor() || order_.take(place.ink) || !end_.planesKnown || !rowsTold_.consistent) {
-    return;
-  }
-  tell(bandOffset_, Rule::kBandOrder,
-       expected ? std::string("a ") + nameOf(*expected) + " band should be here"
-                : std::string("the page has all its bands"));
-}
-
 void PageAudit::checkFlags(const BandRecord& record, BandPlace place) {
   const std::uint64_t offset = bandOffset_ + band_record::kFlagsOffset;
-  if (record.first() != (place.index == 0)) {
+  const bool mayLackFirst = place.index == 0 && gapHadBands_;
+  if (record.first() != (place.index == 0) && !mayLackFirst) {
     tell(offset, Rule::kFirstFlag,
          record.first() ? "the flag of a plane's first band is set"
                         : "the flag of a plane's first band is missing");
   }
-  LastBandFlag::Seen seen{bandOffset_, offset, recordName_, record.last()};
+  LastBandFlag::Seen seen{bandOffset_, offset, recordName_, place.ink, record.last()};
   if (end_.planesKnown && place.ink != summary_.lastInk()) {
     seen.notItsPlane = summary_.lastInk();
   }
@@ -220,8 +215,8 @@ bool PageAudit::checkData(const Band& band, BandPlace place) {
 
 PageSummary PageAudit::finish(bool brokenOff) {
   summary_.brokenOff = brokenOff;
-  tellSharedFaults();
-  lastFlag_.finish();
+  tellOtherRowBits();
+  tellOtherPlanes();
   end_.lastFlagged = end_.lastFlagged || lastFlag_.closed();
   end_.widthUnknown = rowLength_.widthUnknown();
   for (const Flaw& flaw :
@@ -233,23 +228,38 @@ PageSummary PageAudit::finish(bool brokenOff) {
 }
 
 // What all bands say differs from the page record is told of the page record.
-void PageAudit::tellSharedFaults() {
+void PageAudit::tellOtherRowBits() {
   if (otherRowBits_.count() > 1 && otherRowBits_.count() == summary_.bandCount) {
-    otherRowBits_.replaceBy({summary_.offset + page_record::kRowBitsOffset, Rule::kBandRowBits,
-                             pageName_,
-                             "the page record says " + counted(summary_.record.rowBits, "bit") +
-                                 " a row, all its bands " + std::to_string(otherRowBitsTold_)});
+    otherRowBits_.drop();
+    tellOfPage(page_record::kRowBitsOffset, Rule::kBandRowBits,
+               "the page record says " + counted(summary_.record.rowBits, "bit") +
+                   " a row, all its bands " + std::to_string(otherRowBitsTold_));
   }
   otherRowBits_.release();
-  const std::uint32_t black = summary_.summaryOf(Ink::kBlack).bands;
-  const bool isColorPage = std::ranges::all_of(
-      std::array{Ink::kCyan, Ink::kMagenta, Ink::kYellow},
-      [&](Ink ink) { return black > 0 && foreignBands_[indexOf(ink)] == black; });
-  if (isColorPage && otherPlanes_.count() > 0) {
-    otherPlanes_.replaceBy({summary_.offset + page_record::kChannelsOffset, Rule::kBandPlane,
-                            pageName_, "the page is of black alone and has bands of four planes"});
+}
+
+// More bands of other planes than go astray are of a page that has these planes.
+void PageAudit::tellOtherPlanes() {
+  constexpr std::uint64_t kStrayBands = 2;
+  const bool hasMore = otherPlanes_.count() > kStrayBands;
+  const bool blackAlone =
+      summary_.bandCount == summary_.summaryOf(Ink::kBlack).bands && lastFlag_.closedByBlack();
+  if (hasMore) {
+    otherPlanes_.drop();
+    tellOfPage(page_record::kChannelsOffset, Rule::kBandPlane,
+               "the page is of black alone and has " + counted(otherPlanes_.count(), "band") +
+                   " of other planes");
+  } else if (blackAlone) {
+    tellOfPage(page_record::kChannelsOffset, Rule::kBandPlane,
+               "the page is of four planes and has bands of black alone");
+    end_.planesKnown = false;
+    end_.lastFlagged = true;
   }
   otherPlanes_.release();
+  lastFlag_.finish(blackAlone);
+  if (end_.planesKnown && rowsTold_.consistent) {
+    order_.finish();
+  }
 }
 
 void PageAudit::tell(std::uint64_t offset, Rule rule, std::string text) const {

@@ -13,9 +13,9 @@
 #include "reader/HeldFindings.h"
 #include "reader/LastBandFlag.h"
 #include "reader/Page.h"
+#include "reader/PageBandOrder.h"
 #include "reader/RecordReader.h"
 #include "reader/RowLength.h"
-#include "reader/band_order.h"
 #include "reader/page_rules.h"
 #include "reader/rules.h"
 
@@ -58,10 +58,10 @@ class PageAudit {
   void checkPlace(const Band& band, BandPlace place);
   void checkRowBits(const BandRecord& record);
   void checkHeight(const BandRecord& record, BandPlace place);
-  void checkOrder(BandPlace place);
   void checkFlags(const BandRecord& record, BandPlace place);
   bool checkData(const Band& band, BandPlace place);
-  void tellSharedFaults();
+  void tellOtherRowBits();
+  void tellOtherPlanes();
   void tell(std::uint64_t offset, Rule rule, std::string text) const;
   void tellOfPage(std::size_t offset, Rule rule, std::string text) const;
 
@@ -72,8 +72,9 @@ class PageAudit {
   std::uint64_t bandOffset_ = 0;  // of the band record that is being looked at
   RowLength rowLength_;
   RowsTold rowsTold_;
-  BandOrder order_;
-  bool manyPlanes_ = false;  // of the band: more than one plane has a length
+  PageBandOrder order_;
+  bool gapHadBands_ = false;  // possibly
+  bool manyPlanes_ = false;   // of the band: more than one plane has a length
   LastBandFlag lastFlag_;
   HeldFindings otherRowBits_;  // bands that all say the same other number of bits a row
   std::uint16_t otherRowBitsTold_ = 0;

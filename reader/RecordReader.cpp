@@ -55,12 +55,15 @@ std::optional<RecordStep> RecordReader::next() {
   } else {
     step = readGap();
   }
-  if (follows && !std::exchange(toldWhatFollows_, true)) {
+  if (follows) {
     std::erase_if(step.flaws, [](const Flaw& flaw) {
       return flaw.rule == Rule::kTag || flaw.rule == Rule::kRecordOrder;
     });
-    step.flaws.insert(step.flaws.begin(),
-                      {0, Rule::kAfterEnd, "the stream goes on behind the end-of-job mark (JIDG)"});
+    if (!std::exchange(toldWhatFollows_, true)) {
+      step.flaws.insert(
+          step.flaws.begin(),
+          {0, Rule::kAfterEnd, "the stream goes on behind the end-of-job mark (JIDG)"});
+    }
   }
   if (follows && std::holds_alternative<Gap>(step.record)) {
     ended_ = true;
@@ -224,6 +227,7 @@ RecordStep RecordReader::readGap() {
          "no record begins with " + start + "; " + counted(step.bytes, "byte") + " passed over"});
   }
   lengthWasUnknown_ = false;
+  endMarkWasTold_ = gapWasTold_ && step.bytes <= sizeof(Tag) && source_.peek(1).empty();
   return step;
 }
 
@@ -235,7 +239,7 @@ std::optional<RecordStep> RecordReader::readEnd() {
   RecordStep step;
   step.offset = source_.offset();
   step.record = BrokenOff{};
-  if (!source_.failed()) {
+  if (!source_.failed() && !endMarkWasTold_) {
     step.flaws.push_back({0, Rule::kEndMark, "the stream ends without the end-of-job mark (JIDG)"});
   }
   return step;

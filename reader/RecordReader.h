@@ -101,6 +101,7 @@ class RecordReader {
   bool ended_ = false;             // an end-of-job mark came, and nothing behind it yet
   bool toldWhatFollows_ = false;   // that something follows the end-of-job mark
   bool lengthWasUnknown_ = false;  // of the band just read: bytes of it may follow
+  bool endMarkWasTold_ = false;    // just now: bytes that may be a damaged one end the input
   bool gapWasTold_ = false;        // just now: a record that is missing may be in the gap
   std::array<std::uint8_t, host_record::kLength> record_{};  // the longest record
 };

@@ -3,6 +3,7 @@
 
 #include "reader/RowLength.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "reader/row_width.h"
@@ -25,6 +26,13 @@ BandDataReport examineAs(const Band& band, std::uint32_t rowBits) {
   return examineBandData(band.data, band.record.rows, rowBits / 8, band.record.last());
 }
 
+// Decodes to rows without ink behind their pixels.
+bool fits(const BandDataReport& report) {
+  return report.complete && std::ranges::none_of(report.flaws, [](const Flaw& flaw) {
+           return flaw.rule == Rule::kRowSlack;
+         });
+}
+
 }  // namespace
 
 RowLength::RowLength(const PageRecord& record, std::optional<unsigned> bitsPerPixel)
@@ -35,17 +43,22 @@ RowLength::RowLength(const PageRecord& record, std::optional<unsigned> bitsPerPi
 }
 
 void RowLength::hear(const BandRecord& band) {
-  if (bits_ == 0 && isRowBits(band.rowBits)) {
-    bits_ = rowBitsOf(band, record_, bitsPerPixel_);
+  if (band.rowBits == record_.rowBits || !isRowBits(band.rowBits)) {
+    return;
+  }
+  const std::uint32_t bits = rowBitsOf(band, record_, bitsPerPixel_);
+  if (bits_ == 0 || (!vouched(bits_) && vouched(bits))) {
+    bits_ = bits;
   }
 }
 
 RowLength::Examined RowLength::examine(const Band& band) {
   Examined examined{.report = examineAs(band, bits_)};
-  if (!examined.report.complete) {
+  if (!fits(examined.report)) {
     if (std::optional<BandDataReport> longer = examineAsLonger(band)) {
       examined = {.report = std::move(*longer), .longer = true};
-    } else if (band.record.rowBits != record_.rowBits && isRowBits(band.record.rowBits)) {
+    } else if (!examined.report.complete && band.record.rowBits != record_.rowBits &&
+               isRowBits(band.record.rowBits)) {
       const std::uint32_t own = rowBitsOf(band.record, record_, bitsPerPixel_);
       BandDataReport asToldByTheBand = examineAs(band, own);
       examined.ofOwnWidth = asToldByTheBand.complete;
@@ -59,13 +72,17 @@ RowLength::Examined RowLength::examine(const Band& band) {
   return examined;
 }
 
+bool RowLength::vouched(std::uint32_t rowBits) const {
+  return paperVouchesFor(rowBits, record_, bitsPerPixel_);
+}
+
 std::optional<BandDataReport> RowLength::examineAsLonger(const Band& band) {
-  if (!widthUnknown_ && paperVouchesFor(bits_, record_, bitsPerPixel_)) {
+  if (!widthUnknown_ && vouched(bits_)) {
     return std::nullopt;
   }
   for (auto bits = nextLongerRow(bits_); bits; bits = nextLongerRow(*bits)) {
     BandDataReport report = examineAs(band, *bits);
-    if (report.complete) {
+    if (fits(report)) {
       bits_ = *bits;
       widthUnknown_ = true;
       return report;

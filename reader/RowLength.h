@@ -23,7 +23,8 @@ class RowLength {
   // The pixels of a row cannot be told, or are not those that the paper suggests.
   [[nodiscard]] bool widthUnknown() const { return widthUnknown_; }
 
-  // Takes a band's figure where the page record's is no multiple of 128.
+  // Takes a band's figure where the page record's is no multiple of 128, or where the paper vouches
+  // for the band's alone.
   void hear(const BandRecord& band);
 
   struct Examined {
@@ -33,12 +34,14 @@ class RowLength {
   };
   // A band's data held against the rules. Until there is ink, the page's rows may turn out to be as
   // long as the band record says. Where the paper does not vouch for the length, longer rows are
-  // tried whenever data do not decode: what does not decode to rows of some length does not decode
-  // to shorter ones either, and what does decode has the same words in longer ones.
+  // tried whenever data do not decode or have ink in a row's last 32 bits: what does not decode to
+  // rows of some length does not decode to shorter ones either, and what does decode has the same
+  // words in longer ones.
   // requires: bits() != 0; the band has data and 1 to 256 rows
   Examined examine(const Band& band);
 
  private:
+  [[nodiscard]] bool vouched(std::uint32_t rowBits) const;
   std::optional<BandDataReport> examineAsLonger(const Band& band);
 
   PageRecord record_;

@@ -86,6 +86,7 @@ class Examiner {
   BandDataReport run();
 
  private:
+  bool isPastTrailer(const Record& record);
   bool readRecord(Record& record);
   void examineRecord(const Record& record);
   bool examineWordCount(const Record& record, std::size_t nops);
@@ -104,7 +105,8 @@ class Examiner {
   std::span<std::uint8_t> reference_;  // what the decoder works on
   std::span<std::uint8_t> row_;        // the last row decoded
   std::size_t position_ = 0;
-  bool lost_ = false;   // a row did not decode: nobody knows those below it
+  bool lost_ = false;  // a row did not decode: nobody knows those below it
+  bool pastTrailer_ = false;
   bool slack_ = false;  // of the last row decoded
   std::uint32_t slackRows_ = 0;
   Flaw firstSlack_;
@@ -135,6 +137,16 @@ BandDataReport Examiner::run() {
   return std::move(report_);
 }
 
+// Whether the records of a last band have ended, with its trailer behind them: it is read as rows
+// where the band record tells more of them.
+bool Examiner::isPastTrailer(const Record& record) {
+  if (!pastTrailer_ && last_ && record.row > 0 && isTrailer(data_.subspan(record.start))) {
+    pastTrailer_ = true;
+    flaw(record.start, Rule::kTrailer, "the trailer stands where " + nameOf(record) + " should be");
+  }
+  return pastTrailer_;
+}
+
 // Reads record.row's record; false when the data end before it or inside it.
 bool Examiner::readRecord(Record& record) {
   const Bytes left = data_.subspan(position_);
@@ -152,8 +164,8 @@ bool Examiner::readRecord(Record& record) {
   }
   record.start = position_;
   record.codeWords = left.subspan(kWordBytes, kWordBytes * words);
-  record.lastRow = record.row + 1 == rows_;
   record.rest = left.subspan(kWordBytes * (1 + words));
+  record.lastRow = record.row + 1 == rows_ || (last_ && isTrailer(record.rest));
   position_ += kWordBytes * (1 + words);
   return true;
 }
@@ -170,7 +182,8 @@ void Examiner::examineRecord(const Record& record) {
   }
   const std::size_t nops = nopsAtEnd(record.codeWords);
   bool surplusNops = false;
-  if (record.words() > 0) {
+  const bool pastTrailer = isPastTrailer(record);
+  if (record.words() > 0 && !pastTrailer) {
     surplusNops = examineWordCount(record, nops);
   } else if (record.row == 0) {
     flaw(record.start, Rule::kRecordMinimum, "row 0 has no code words");
@@ -193,7 +206,9 @@ void Examiner::examineRecord(const Record& record) {
   if (surplusNops) {
     habits_.addSurplusNops(record.start);
   }
-  habits_.look(record.codeWords, record.start + kWordBytes, record.row == 0);
+  if (!pastTrailer) {
+    habits_.look(record.codeWords, record.start + kWordBytes, record.row == 0);
+  }
   examineRow(record, changed);
 }
 
@@ -238,6 +253,9 @@ void Examiner::examineRow(const Record& record, bool changed) {
 
 void Examiner::examineEnd() {
   const Bytes rest = data_.subspan(position_);
+  if (pastTrailer_) {
+    return;
+  }
   if (last_ && rest.empty()) {
     flaw(position_, Rule::kTrailer, "nothing follows the last row");
   } else if (last_ && !isTrailer(rest)) {

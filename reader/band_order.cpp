@@ -66,6 +66,14 @@ void BandOrder::findBand() {
   }
 }
 
+std::uint64_t turnOf(Ink ink, std::uint32_t index) {
+  std::uint64_t place = 0;
+  while (kStep[place].first != ink) {
+    ++place;
+  }
+  return (std::uint64_t{index} + kStep[place].second) * kInkCount + place;
+}
+
 BandCounts bandsOfSteps(std::uint32_t steps, std::uint32_t bandsPerPlane) {
   BandCounts sent{};
   for (const auto& [ink, lag] : kStep) {

@@ -40,6 +40,10 @@ class BandOrder {
   BandCounts passedOver_{};
 };
 
+// The turn of a plane's band on a page of any number of rows: bands come in the order of their
+// turns. index: of the plane, from 0.
+std::uint64_t turnOf(Ink ink, std::uint32_t index);
+
 // The bands of each plane that the first `steps` steps of such a page send.
 BandCounts bandsOfSteps(std::uint32_t steps, std::uint32_t bandsPerPlane);
 

@@ -55,6 +55,7 @@ constexpr std::array kRules{
              "every plane has as many rows as the page record says, but see steps-left-out"},
     RuleText{Rule::kPageEnd, "page-end",
              "a page with bands has its last band, but see steps-left-out"},
+    RuleText{Rule::kNoPages, "no-pages", "a job has a page", true},
     RuleText{Rule::kNotCompressed, "not-compressed", "every band was compressed and has its data",
              true},
     RuleText{Rule::kCodecHabit, "codec-habit",

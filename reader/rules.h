@@ -60,6 +60,7 @@ enum class Rule : std::uint8_t {
   kPageRows,
   kPageEnd,
   // Remarks.
+  kNoPages,
   kNotCompressed,
   kCodecHabit,
   kWideRows,

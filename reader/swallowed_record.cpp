@@ -6,7 +6,7 @@
 #include <span>
 
 #include "codec/pc4sc4_format.h"
-#include "reader/StoredPlane.h"
+#include "reader/band_data.h"
 #include "reader/record_start.h"
 
 namespace gdi::reader {
@@ -18,9 +18,9 @@ constexpr int kMostTries = 2;
 
 }  // namespace
 
-std::optional<std::size_t> swallowedRecord(const Band& band, std::uint32_t rowBits) {
-  const std::span<const std::uint8_t> data(band.data);
-  const std::uint32_t rows = band.record.rows;
+std::optional<std::size_t> swallowedRecord(const Band& swallowing, std::uint32_t rowBits) {
+  const std::span<const std::uint8_t> data(swallowing.data);
+  const std::uint32_t rows = swallowing.record.rows;
   if (rowBits == 0 || rows == 0 || rows > kBandHeight) {
     return std::nullopt;
   }
@@ -30,9 +30,9 @@ std::optional<std::size_t> swallowedRecord(const Band& band, std::uint32_t rowBi
     if (!beginsRecord(data.subspan(at))) {
       continue;
     }
-    const DecodedBand decoded = decodeBand(data.first(at), rows, rowBits / 8);
-    const std::size_t left = at - decoded.consumed;
-    if (decoded.complete && (left == 0 || left == sizeof pc4sc4::kTrailer)) {
+    const BandDataReport band = examineBandData(data.first(at), rows, rowBits / 8, false);
+    const std::size_t left = at - band.consumed;
+    if (band.complete && (left == 0 || left == sizeof pc4sc4::kTrailer)) {
       return at;
     }
     if (++tries == kMostTries) {

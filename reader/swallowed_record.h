@@ -14,6 +14,6 @@ namespace gdi::reader {
 
 // Where in a band's data the next record begins, when the band's rows end there, with the trailer
 // or without it. rowBits: padded bits a row, a multiple of 128.
-std::optional<std::size_t> swallowedRecord(const Band& band, std::uint32_t rowBits);
+std::optional<std::size_t> swallowedRecord(const Band& swallowing, std::uint32_t rowBits);
 
 }  // namespace gdi::reader

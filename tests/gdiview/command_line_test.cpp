@@ -64,7 +64,7 @@ TEST_F(CommandLineOfGdiview, CheckListsItsRulesWithoutAJob) {
   const std::string rules = out();
   EXPECT_TRUE(rules.starts_with("tag             every record begins with one of the five tags\n"));
   EXPECT_NE(rules.find("\ncodec-habit     note: "), std::string::npos);
-  EXPECT_EQ(std::count(rules.begin(), rules.end(), '\n'), 43);
+  EXPECT_EQ(std::count(rules.begin(), rules.end(), '\n'), 44);
   EXPECT_EQ(errors(), "");
 }
 

@@ -168,6 +168,97 @@ TEST(ManyFaults, ForeignBandsThatMakeNoColorPageAreToldOneByOne) {
   EXPECT_EQ(readJob(job).rules(), "band-plane band-plane");
 }
 
+// A colour page whose planes have so many bands of 256 rows.
+JobBuilder colorPageOf(std::uint32_t bands) {
+  return jobtest::jobOf({.rows = bands * 256, .color = true});
+}
+
+TEST(ManyFaults, AColorPageThatSaysItIsBlackIsToldOnceHoweverItEnds) {
+  const JobBuilder color = colorPageOf(4).patch(kPageAt, 32, {1});
+  EXPECT_EQ(readJob(color).rules(), "band-plane");
+  Bytes cut = color.bytes();
+  cut.resize(cut.size() - 1000);
+  const ReadJob read = readJob(cut);
+  EXPECT_EQ(read.rules(), "band-plane truncated") << read.told();
+  EXPECT_EQ(read.findings[0].text, "the page is of black alone and has 11 bands of other planes");
+  const ReadJob early = readJob(
+      jobtest::jobOf({.rows = 12 * 256 + 1, .color = true, .steps = 12}).patch(kPageAt, 32, {1}));
+  EXPECT_EQ(early.rules(), "band-plane") << early.told();
+}
+
+TEST(ManyFaults, ABlackPageThatSaysItHasFourPlanesIsToldOnce) {
+  const ReadJob read = readJob(blackPageOf(8).patch(kPageAt, 32, {4}));
+  ASSERT_EQ(read.rules(), "band-plane") << read.told();
+  EXPECT_EQ(read.findings[0].offset, kPageAt + 32);
+  EXPECT_EQ(read.findings[0].text, "the page is of four planes and has bands of black alone");
+}
+
+TEST(ManyFaults, BandsInOrderForOtherRowsThanToldAreNotOutOfOrder) {
+  // 10 bands a plane, and 256 bands more or 3 less.
+  const ReadJob more = readJob(colorPageOf(10).patch(kPageAt, 54, {1, 11}));
+  EXPECT_EQ(more.rules(), "band-count") << more.told();
+  const ReadJob less =
+      readJob(colorPageOf(10).patch(kPageAt, 14, {7, 0}).patch(kPageAt, 54, {0, 8}));
+  EXPECT_EQ(less.rules(), "page-rows") << less.told();
+}
+
+TEST(ManyFaults, BandsOfPlanesThatAreUnknownAreShown) {
+  for (const std::uint8_t planes : std::initializer_list<std::uint8_t>{0, 2, 5}) {
+    const ReadJob read = readJob(colorJob().patch(kPageAt, 32, {planes}));
+    EXPECT_EQ(read.rules(), "channels") << read.told();
+    EXPECT_EQ(read.pages.at(0).inks().size(), 4U) << int{planes};
+    EXPECT_EQ(readJob(blackJob().patch(kPageAt, 32, {planes})).pages.at(0).inks().size(), 1U);
+  }
+}
+
+TEST(ManyFaults, AWrongPageNumberDoesNotMakeTheNextOneWrong) {
+  for (const std::uint16_t wrong : std::initializer_list<std::uint16_t>{0, 3, 7, 0xFFFF}) {
+    JobBuilder job = headers();
+    for (const std::uint16_t number : std::initializer_list<std::uint16_t>{0, 1, wrong, 3, 4}) {
+      jobtest::addPage(job, {.number = number});
+    }
+    const ReadJob read = readJob(job.end());
+    ASSERT_EQ(read.rules(), "page-number") << read.told();
+    EXPECT_EQ(read.findings[0].record, "page 3");
+  }
+}
+
+TEST(ManyFaults, TheFirstPagesDamagedTagIsToldOnce) {
+  EXPECT_EQ(readJob(threePages().patch(kPageAt, 0, {'g'})).rules(), "tag");
+  JobBuilder missing = threePages();
+  const auto page = missing.bytes().begin() + static_cast<std::ptrdiff_t>(kPageAt);
+  missing.bytes().erase(page, page + 64);
+  EXPECT_EQ(readJob(missing).rules(), "record-order");
+}
+
+TEST(ManyFaults, ADamagedTagOfABandIsToldOnce) {
+  EXPECT_EQ(readJob(blackPageOf(2).patch(kBandAt, 0, {'g'})).rules(), "tag");
+  const std::size_t black = 32 + kFullBandBytes;
+  for (std::size_t band = 0; band < 10; ++band) {  // 10 of black, cyan's first being the seventh
+    const ReadJob read = readJob(colorPageOf(10).patch(kBandAt + band * black, 0, {'g'}));
+    EXPECT_EQ(read.rules(), "tag") << band << ": " << read.told();
+  }
+}
+
+TEST(ManyFaults, ADamagedEndMarkIsToldOnce) {
+  EXPECT_EQ(readJob(blackJob().patch(kEndAt, 3, {'X'})).rules(), "tag");
+  EXPECT_EQ(readJob(blackJob().patch(kEndAt, 0, {0, 0, 0, 0})).rules(), "tag");
+}
+
+TEST(ManyFaults, ATrailerThatIsReadAsRowsIsToldAsTrailer) {
+  for (const std::uint8_t rows : std::initializer_list<std::uint8_t>{3, 4}) {
+    const ReadJob read = readJob(blackJob().patch(kBandAt, 27, {rows}));
+    EXPECT_EQ(read.rules(), "trailer page-rows") << read.told();
+    EXPECT_EQ(read.findings[0].text, "the trailer stands where row 2 should be");
+  }
+}
+
+TEST(ManyFaults, GarbageBetweenJobsIsToldOnceAsWhatFollowsTheEnd) {
+  JobBuilder job = blackJob();
+  job.raw(Bytes(20, 'x')).raw(blackJob().bytes()).raw(Bytes(20, 'x'));
+  EXPECT_EQ(readJob(job).rules(), "after-end");
+}
+
 TEST(ManyFaults, AFieldThatIsToBeZeroTellsHowManyBytesAreNot) {
   const ReadJob read = readJob(blackJob().patch(kJobAt, 12, {1, 0, 2, 3}).patch(kJobAt, 16, {4}));
   ASSERT_EQ(read.rules(), "zero-field zero-field") << read.told();

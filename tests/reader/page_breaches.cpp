@@ -168,6 +168,9 @@ Breaches pageBreaches() {
 Breaches remarks() {
   const std::string page = "page 1";
   return {
+      {Rule::kNoPages, "BehindTheHeaders", headers().end().bytes(), kPageAt, "end-of-job mark"},
+      {Rule::kNoPages, "BehindAPrologue", JobBuilder().text("wake up").end().bytes(), 7,
+       "end-of-job mark"},
       {Rule::kNotCompressed, "OnABlackPage", notCompressed(1), kBandAt, kBandName},
       {Rule::kNotCompressed, "OnAColorPage", notCompressed(4), kCyanAt, "page 1, cyan band 0"},
       // The first of six NOPs behind row 1 stands behind 22 words.

@@ -132,13 +132,14 @@ TEST(SoundJob, AColourPageInWhichAllPlanesAreSentInOneStepHasNoFinding) {
   expectSound({.rows = 19 * 256 + 255, .color = true});
 }
 
-TEST(SoundJob, AJobWithoutPagesHasNoFinding) {
+TEST(SoundJob, AJobWithoutPagesIsARemark) {
   for (const char* prologue : {"", "@a prologue\n"}) {
     JobBuilder endAlone;
-    EXPECT_EQ(readJob(endAlone.text(prologue).end()).told(), "");
+    EXPECT_EQ(readJob(endAlone.text(prologue).end()).rules(), "no-pages");
     JobBuilder withHeaders;
     const ReadJob read = readJob(withHeaders.text(prologue).jobRecord(1).hostRecord().end());
-    EXPECT_EQ(read.told(), "");
+    EXPECT_EQ(read.rules(), "no-pages");
+    EXPECT_EQ(read.totals.violations, 0U);
     EXPECT_TRUE(read.pages.empty());
     EXPECT_TRUE(read.foundRecord);
     EXPECT_EQ(read.prologueBytes, std::string(prologue).size());

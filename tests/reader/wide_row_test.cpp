@@ -180,6 +180,20 @@ TEST(WideRow, IsTriedOnPaperOfNoWidthBehindInkThatFitsTheShorterOne) {
   EXPECT_EQ(page.plane(Ink::kBlack).rowsOfBand(0), joined(Rows(256, row)));
 }
 
+TEST(WideRow, WithInkInTheLast32BitsOfTheShorterOneIsTriedFirst) {
+  // 2,560 bits are told, and black is all over the first 160 words of the wider row and no further.
+  SoundPage page = blackPage(kWidePixels, 1);
+  Rows rows(1, Bytes(kWideRowBytes));
+  std::fill(rows[0].begin(), rows[0].begin() + 320, 0xFF);
+  jobtest::PageFields fields = fieldsOf(page);
+  fields.widthMicrometres = 0;
+  JobBuilder job = headers();
+  job.pageRecord(fields).band(Ink::kBlack, kFirst | kLast, rows).end();
+  const ReadJob read = readJob(job);
+  EXPECT_EQ(read.rules(), "wide-rows") << read.told();
+  EXPECT_EQ(read.pages.at(0).rowBits, 68096U);
+}
+
 // A blank band but for a literal run of one word behind the 320 words of a row of 5,120 bits.
 Bytes bandWithAWordBeyondItsRow() {
   Bytes band = blankBand();
