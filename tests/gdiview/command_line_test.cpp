@@ -133,8 +133,9 @@ TEST_F(CommandLineOfGdiview, WhatIsTooMuchIsTold) {
 
 TEST_F(CommandLineOfGdiview, FieldsToIgnoreMayStandAnywhere) {
   writeJob("A");
-  folder_.write("B",
-                test::contentsOf(folder_.path() / "A").replace(23, 1, "\xD4"));  // an hour less
+  std::string job = test::contentsOf(folder_.path() / "A");
+  job[23] = '\xD4';  // an hour less
+  folder_.write("B", job);
   for (const char* words :
        {"A B --ignore date,host", "--ignore date,host A B", "A --ignore date,host B",
         "--ignore date,host A B -o DIR", "--ignore date,host -o DIR A B",

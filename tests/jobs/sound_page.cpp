@@ -59,7 +59,8 @@ PageFields fieldsOf(const SoundPage& page) {
 Rows rowsOf(const SoundPage& page, std::size_t count) {
   Bytes row(rowBitsOf(page) / 8);
   std::fill(row.begin(), row.end() - 4, page.blank ? std::uint8_t{0} : page.ink);
-  return Rows(count, row);
+  Rows rows(count, row);
+  return rows;
 }
 
 JobBuilder& addPage(JobBuilder& job, const SoundPage& page) {

@@ -25,7 +25,8 @@ inline Words operator+(Words left, const Words& right) {
 }
 
 inline Words nops(std::size_t count) {
-  return Words(count, kNop);
+  Words words(count, kNop);
+  return words;
 }
 
 // A first record of 18 bytes with n, whose row is blank.
