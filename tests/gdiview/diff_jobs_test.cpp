@@ -435,6 +435,15 @@ TEST_F(DiffJobs, WhatIsNoJobStreamIsUnusableOnEitherSide) {
   }
 }
 
+TEST_F(DiffJobs, APictureThatEndsLikeAJobIsUnusable) {
+  JobBuilder picture;
+  picture.text("\x89PNG\r\n\x1a\n").end();
+  EXPECT_EQ(run(picture, picture), kUnusable);
+  EXPECT_EQ(errors_.str(),
+            "gdiview: ONE: this is no job stream: it begins like a PNG picture\n"
+            "gdiview: TWO: this is no job stream: it begins like a PNG picture\n");
+}
+
 TEST_F(DiffJobs, TwoUnusableInputsAreTwoLines) {
   std::istringstream empty;
   std::istringstream text("text");

@@ -57,12 +57,15 @@ class Side {
     return {job_.totals().bytes - job_.prologueBytes() - bytesOfPages_, job_.totals().pages,
             others_.checksum()};
   }
+  // Of what nextPage() has read.
+  [[nodiscard]] bool isJob() const { return holdsJob(job_.walk(), start()); }
   // False, with a line, when it is no job stream or could not be read on.
   [[nodiscard]] bool isReadable() const {
-    return isJobStream(job_.walk(), job_.prologue(), name_, errors_);
+    return isJobStream(job_.walk(), start(), name_, errors_);
   }
 
  private:
+  [[nodiscard]] JobStart start() const { return {job_.prologue(), job_.prologueBytes()}; }
   // The records that DifferenceLines::frames() compares stay out.
   void addOther(const reader::RecordStep& step) {
     bool& seen = std::holds_alternative<reader::JobRecord>(step.record) ? seenJob_ : seenHost_;
@@ -136,7 +139,7 @@ int diffJobs(JobInput& a, JobInput& b, const DiffOptions& options, Progress& pro
     return sideB.isReadable() && readable;
   };
   nextPages();
-  if (!sideA.job().walk().foundRecord() || !sideB.job().walk().foundRecord()) {
+  if (!sideA.isJob() || !sideB.isJob()) {
     (void)bothReadable();
     return kUnusable;
   }

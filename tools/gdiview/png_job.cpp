@@ -118,12 +118,15 @@ int pngJob(JobInput& input, const PngOptions& options, Progress& progress, std::
     }
   }
   progress.clear();
-  if (!isJobStream(job.walk(), job.prologue(), input.name(), errors)) {
+  if (!isJobStream(job.walk(), {job.prologue(), job.prologueBytes()}, input.name(), errors)) {
     return statusAfterWriting(out, kUnusable, errors);
   }
   if (options.page && !shown) {
     tellMissingPage(input.name(), *options.page, job.totals(), errors);
     return kUnusable;
+  }
+  if (job.totals().pages == 0) {
+    out << nameInLine(input.name()) << ": 0 pages, no picture\n";
   }
   return statusAfterWriting(out, job.totals().violations == 0 ? kSound : kFaulty, errors);
 }
