@@ -22,8 +22,12 @@ Page blackPage(unsigned bitsPerPixel, std::uint32_t width, const Rows& rows) {
   return page;
 }
 
+PageDifference compared(const Page& a, const Page& b) {
+  return differenceOf(a, b, [](std::uint64_t, std::uint64_t) {});
+}
+
 PlaneDifference blackDifference(const Page& a, const Page& b) {
-  return differenceOf(a, b).plane(Ink::kBlack);
+  return compared(a, b).plane(Ink::kBlack);
 }
 
 void expectSame(const PlaneDifference& plane) {
@@ -38,7 +42,7 @@ void expectSame(const PlaneDifference& plane) {
 
 TEST(PageDifference, EqualPagesDifferInNothing) {
   const Page page = blackPage(1, 96, {rowStartingWith({0xA0, 0x01})});
-  const PageDifference difference = differenceOf(page, page);
+  const PageDifference difference = compared(page, page);
   EXPECT_TRUE(difference.comparable);
   EXPECT_TRUE(difference.samePixels());
   expectSame(difference.plane(Ink::kBlack));
@@ -52,7 +56,7 @@ TEST(PageDifference, PixelsAreCountedAndTheFirstIsTheLeftmostInTheTopmostRow) {
   const Page b = blackPage(
       1, 96,
       {rowStartingWith({0xFF}), rowStartingWith({0x00, 0x00, 0x09}), rowStartingWith({0x00})});
-  const PageDifference difference = differenceOf(a, b);
+  const PageDifference difference = compared(a, b);
   const PlaneDifference& black = difference.plane(Ink::kBlack);
   EXPECT_EQ(black.pixels, 4U);  // three in the row of 0x10 ^ 0x09, one in the row below
   EXPECT_EQ(black.firstPixel, (PixelPlace{19, 1}));
@@ -86,7 +90,7 @@ TEST(PageDifference, EqualRowsInOtherBytesAreABandCodedOtherwise) {
   }
   planeOf(b, Ink::kBlack).append(1, band);
   ASSERT_EQ(b.plane(Ink::kBlack).rowsOfBand(0), Bytes(16, 0xFF));
-  const PageDifference difference = differenceOf(a, b);
+  const PageDifference difference = compared(a, b);
   const PlaneDifference& black = difference.plane(Ink::kBlack);
   EXPECT_EQ(black.recoded.count, 1U);
   EXPECT_EQ(black.recoded.first, 0U);
@@ -98,7 +102,7 @@ TEST(PageDifference, BitsRightOfTheWidthAreCountedAsPadding) {
   Bytes padded = rowStartingWith({0b10000'111});
   padded[15] = 0x81;
   const PageDifference difference =
-      differenceOf(blackPage(1, 5, {rowStartingWith({0b10000'001})}), blackPage(1, 5, {padded}));
+      compared(blackPage(1, 5, {rowStartingWith({0b10000'001})}), blackPage(1, 5, {padded}));
   const PlaneDifference& black = difference.plane(Ink::kBlack);
   EXPECT_EQ(black.pixels, 0U);
   EXPECT_FALSE(black.firstPixel);
@@ -161,13 +165,29 @@ TEST(PageDifference, RowsThatOnePageLacksAreBlankInIt) {
   }
 }
 
+// Black has three rows in one page and one in the other, and cyan has two: five to compare. Cyan's
+// are in one band that is the same in both.
+TEST(PageDifference, ComparedRowsAreCountedThroughAllPlanes) {
+  Page a = pageWith(1, 4, 96);
+  add(a, Ink::kCyan, {rowStartingWith({0x01}), rowStartingWith({0x02})});
+  Page b = a;
+  add(a, Ink::kBlack, {rowStartingWith({0x01})});
+  add(b, Ink::kBlack, {rowStartingWith({0x02}), rowStartingWith({0x04}), rowStartingWith({0x08})});
+  std::vector<std::uint64_t> counts;
+  (void)differenceOf(a, b, [&counts](std::uint64_t done, std::uint64_t all) {
+    EXPECT_EQ(all, 5U);
+    counts.push_back(done);
+  });
+  EXPECT_EQ(counts, (std::vector<std::uint64_t>{2, 3, 4, 5}));
+}
+
 TEST(PageDifference, APlaneThatOnePageLacksIsBlankInIt) {
   const Page mono = blackPage(1, 96, {rowStartingWith({0xFF})});
   Page color = pageWith(1, 4, 96);
   add(color, Ink::kBlack, {rowStartingWith({0xFF})});
   add(color, Ink::kCyan, {rowStartingWith({0x00, 0x3C})});
   add(color, Ink::kMagenta, {rowStartingWith({0x00})});
-  const PageDifference difference = differenceOf(mono, color);
+  const PageDifference difference = compared(mono, color);
   expectSame(difference.plane(Ink::kBlack));
   EXPECT_EQ(difference.plane(Ink::kCyan).pixels, 4U);
   EXPECT_EQ(difference.plane(Ink::kCyan).firstPixel, (PixelPlace{10, 0}));
@@ -232,7 +252,7 @@ TEST(PageDifference, APageWithoutPixelsIsComparedAllTheSame) {
   none.planes.fill(reader::StoredPlane(0, 1000));
   planeOf(none, Ink::kBlack).appendLost(256);
   ASSERT_EQ(none.widthPixels(), 0U);
-  const PageDifference same = differenceOf(none, none);
+  const PageDifference same = compared(none, none);
   EXPECT_TRUE(same.samePixels());
   expectSame(same.plane(Ink::kBlack));
   const Page page = blackPage(1, 96, {rowStartingWith({0x11})});
@@ -266,8 +286,8 @@ TEST(PageDifference, RowsAreComparedWhereTheyStandWhateverTheirBands) {
 }
 
 TEST(PageDifference, PixelsOfDifferentBitsAreNotComparable) {
-  const PageDifference difference = differenceOf(blackPage(1, 20, {rowStartingWith({0xFF})}),
-                                                 blackPage(2, 20, {rowStartingWith({0x00})}));
+  const PageDifference difference = compared(blackPage(1, 20, {rowStartingWith({0xFF})}),
+                                             blackPage(2, 20, {rowStartingWith({0x00})}));
   EXPECT_FALSE(difference.comparable);
   EXPECT_FALSE(difference.samePixels());
   EXPECT_EQ(difference.plane(Ink::kBlack).pixels, 0U);
