@@ -179,7 +179,9 @@ void CommandParser::addDiff() {
               "B has, violet where each has more of some")
           ->option_text("DIR")
           ->check(faultOfFolder);
-  addScale(command).needs(folder);
+  CLI::Option& scale = addScale(command);
+  scale.needs(folder);
+  scale.description(scale.get_description() + ";\nonly with -o");
   command
       .add_option("--ignore", ignored_,
                   "Fields that may differ, as info names them and with a comma between two, for\n"

@@ -5,14 +5,11 @@
 
 #include <algorithm>
 #include <sstream>
-#include <utility>
 
-#include "reader/JobReader.h"
 #include "reader/page_resolution.h"
+#include "tools/gdiview/ComparedJob.h"
 #include "tools/gdiview/DifferenceLines.h"
 #include "tools/gdiview/DifferencePainter.h"
-#include "tools/gdiview/FindingLines.h"
-#include "tools/gdiview/OtherSteps.h"
 #include "tools/gdiview/escaped_text.h"
 #include "tools/gdiview/page_difference.h"
 #include "tools/gdiview/picture_file.h"
@@ -23,77 +20,6 @@ namespace gdi::gdiview {
 namespace {
 
 using reader::RecordKind;
-
-// One of the two jobs, read page by page; what is wrong with it becomes lines in `errors`.
-class Side {
- public:
-  Side(JobInput& input, const DiffOptions& options, Progress& progress, std::ostream& errors)
-      : name_(input.name()),
-        errors_(errors),
-        others_(options.ignored),
-        lines_(errors, input.name()),
-        job_(
-            input.stream(),
-            [this, &progress](const reader::Finding& finding) {
-              progress.clear();
-              lines_.tell(finding);
-            },
-            options.prologueBytes, [this](const reader::RecordStep& step) { addOther(step); }) {}
-
-  // Reads the next page; there is none in page() when there are no more.
-  void nextPage() {
-    page_ = job_.nextPage();
-    begun_ = true;
-    if (page_) {
-      bytesOfPages_ += lengthOf(RecordKind::kPage) + page_->compressedBytes +
-                       lengthOf(RecordKind::kBand) * page_->bandRecords.size() +
-                       page_->strayBytes.bytes();
-    }
-  }
-  [[nodiscard]] const std::optional<reader::Page>& page() const { return page_; }
-  [[nodiscard]] const reader::JobReader& job() const { return job_; }
-  // Of the job, which has been read to its end, all that is not of its prologue or of a page.
-  [[nodiscard]] OtherBytes otherBytes() const {
-    return {job_.totals().bytes - job_.prologueBytes() - bytesOfPages_, job_.totals().pages,
-            others_.checksum()};
-  }
-  // Of what nextPage() has read.
-  [[nodiscard]] bool isJob() const { return holdsJob(job_.walk(), start()); }
-  // False, with a line, when it is no job stream or could not be read on.
-  [[nodiscard]] bool isReadable() const {
-    return isJobStream(job_.walk(), start(), name_, errors_);
-  }
-
- private:
-  [[nodiscard]] JobStart start() const { return {job_.prologue(), job_.prologueBytes()}; }
-  void addOther(const reader::RecordStep& step) {
-    if (!isFrame(step)) {
-      others_.add(step, job_.totals().pages);
-    }
-  }
-  // One of the two records that DifferenceLines::frames() compares: the first of its kind, ahead of
-  // all pages.
-  bool isFrame(const reader::RecordStep& step) {
-    if (std::holds_alternative<reader::JobRecord>(step.record)) {
-      return !std::exchange(seenJob_, true) && !begun_;
-    }
-    if (std::holds_alternative<reader::HostRecord>(step.record)) {
-      return !std::exchange(seenHost_, true) && !begun_;
-    }
-    return false;
-  }
-
-  std::string name_;
-  std::ostream& errors_;
-  bool begun_ = false;  // the first page has come, if there is one
-  bool seenJob_ = false;
-  bool seenHost_ = false;
-  OtherSteps others_;
-  FindingLines lines_;
-  reader::JobReader job_;
-  std::optional<reader::Page> page_;
-  std::uint64_t bytesOfPages_ = 0;
-};
 
 class JobComparison {
  public:
@@ -181,8 +107,8 @@ class JobComparison {
   Progress& progress_;
   std::ostream& out_;
   std::ostream& errors_;
-  Side a_;
-  Side b_;
+  ComparedJob a_;
+  ComparedJob b_;
   DifferenceLines differences_;
 };
 
