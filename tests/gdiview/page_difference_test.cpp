@@ -3,9 +3,12 @@
 
 #include "tools/gdiview/page_difference.h"
 
+#include <cstdint>
+#include <vector>
+
 #include <gtest/gtest.h>
 
-#include "tests/gdiview/small_pages.h"
+#include "tests/gdiview/page_difference_fixture.h"
 
 namespace gdi::gdiview {
 namespace {
@@ -14,31 +17,6 @@ using jobtest::Bytes;
 using jobtest::Rows;
 using reader::Ink;
 using reader::Page;
-
-// A page of one band of black.
-Page blackPage(unsigned bitsPerPixel, std::uint32_t width, const Rows& rows) {
-  Page page = pageWith(bitsPerPixel, 1, width);
-  add(page, Ink::kBlack, rows);
-  return page;
-}
-
-PageDifference compared(const Page& a, const Page& b) {
-  return differenceOf(a, b, [](std::uint64_t, std::uint64_t) {});
-}
-
-PlaneDifference blackDifference(const Page& a, const Page& b) {
-  return compared(a, b).plane(Ink::kBlack);
-}
-
-void expectSame(const PlaneDifference& plane) {
-  EXPECT_EQ(plane.pixels, 0U);
-  EXPECT_EQ(plane.paddingBits, 0U);
-  for (const BandCount& bands :
-       {plane.different, plane.recoded, plane.decodedInA, plane.decodedInB, plane.lostOtherwise}) {
-    EXPECT_EQ(bands.count, 0U);
-    EXPECT_FALSE(bands.first);
-  }
-}
 
 TEST(PageDifference, EqualPagesDifferInNothing) {
   const Page page = blackPage(1, 96, {rowStartingWith({0xA0, 0x01})});
@@ -194,74 +172,6 @@ TEST(PageDifference, APlaneThatOnePageLacksIsBlankInIt) {
   EXPECT_EQ(difference.plane(Ink::kCyan).different.count, 0U);
   expectSame(difference.plane(Ink::kMagenta));
   expectSame(difference.plane(Ink::kYellow));
-}
-
-TEST(PageDifference, ALostBandIsBlankAndItsNeighboursAreStillEqual) {
-  Page a = blackPage(1, 96, {rowStartingWith({0x11})});
-  Page b = a;
-  add(a, Ink::kBlack, {rowStartingWith({0x07})});
-  planeOf(b, Ink::kBlack).appendLost(1);
-  add(a, Ink::kBlack, {rowStartingWith({0x22})});
-  add(b, Ink::kBlack, {rowStartingWith({0x22})});
-  const PlaneDifference black = blackDifference(a, b);
-  EXPECT_EQ(black.pixels, 3U);
-  EXPECT_EQ(black.firstPixel, (PixelPlace{5, 1}));
-  EXPECT_EQ(black.different.count, 1U);
-  EXPECT_EQ(black.different.first, 1U);
-  EXPECT_EQ(black.decodedInA.count, 1U);
-  EXPECT_EQ(black.decodedInA.first, 1U);
-  EXPECT_EQ(black.decodedInB.count, 0U);
-  EXPECT_EQ(black.recoded.count, 0U);
-}
-
-TEST(PageDifference, ABandThatIsLostInOneAndBlankInTheOtherIsDecodedOnlyInThat) {
-  Page lost = blackPage(1, 96, {rowStartingWith({0x11})});
-  Page blank = lost;
-  planeOf(lost, Ink::kBlack).appendLost(1);
-  add(blank, Ink::kBlack, {rowStartingWith({0x00})});
-  PlaneDifference black = blackDifference(lost, blank);
-  EXPECT_EQ(black.decodedInB.count, 1U);
-  EXPECT_EQ(black.decodedInB.first, 1U);
-  black.decodedInB = {};
-  expectSame(black);
-  black = blackDifference(blank, lost);
-  EXPECT_EQ(black.decodedInA.count, 1U);
-  EXPECT_EQ(black.decodedInB.count, 0U);
-}
-
-TEST(PageDifference, BandsThatAreLostInBothAreComparedByTheirChecksums) {
-  const auto lostBand = [](const Bytes& bytes) {
-    reader::Checksum checksum;
-    checksum.add(bytes);
-    Page page = blackPage(1, 96, {rowStartingWith({0x11})});
-    planeOf(page, Ink::kBlack).appendLost(1, checksum);
-    return page;
-  };
-  expectSame(blackDifference(lostBand({1, 2}), lostBand({1, 2})));
-  PlaneDifference black = blackDifference(lostBand({1, 2}), lostBand({1, 3}));
-  EXPECT_EQ(black.lostOtherwise.count, 1U);
-  EXPECT_EQ(black.lostOtherwise.first, 1U);
-  black.lostOtherwise = {};
-  expectSame(black);
-}
-
-// A page whose record's bits a row are none that exist.
-TEST(PageDifference, APageWithoutPixelsIsComparedAllTheSame) {
-  Page none = pageWith(1, 1, 96);
-  none.rowBits = 0;
-  none.planes.fill(reader::StoredPlane(0, 1000));
-  planeOf(none, Ink::kBlack).appendLost(256);
-  ASSERT_EQ(none.widthPixels(), 0U);
-  const PageDifference same = compared(none, none);
-  EXPECT_TRUE(same.samePixels());
-  expectSame(same.plane(Ink::kBlack));
-  const Page page = blackPage(1, 96, {rowStartingWith({0x11})});
-  for (const PlaneDifference& black : {blackDifference(none, page), blackDifference(page, none)}) {
-    EXPECT_EQ(black.pixels, 2U);
-    EXPECT_EQ(black.firstPixel, (PixelPlace{3, 0}));
-    EXPECT_EQ(black.paddingBits, 0U);
-    EXPECT_EQ(black.decodedInA.count + black.decodedInB.count, 1U);
-  }
 }
 
 TEST(PageDifference, RowsAreComparedWhereTheyStandWhateverTheirBands) {
