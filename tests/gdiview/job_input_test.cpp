@@ -54,6 +54,16 @@ TEST(JobInput, ADeviceHasNoSize) {
   EXPECT_EQ(input.size(), std::nullopt);
 }
 
+TEST(JobInput, TheSizeOfTwoIsKnownWhenBothAre) {
+  test::TemporaryFolder folder;
+  const JobInput five(folder.write("five", "12345").string());
+  const JobInput three(folder.write("three", "123").string());
+  const JobInput device("/dev/null");
+  EXPECT_EQ(sizeOfBoth(five, three), 8U);
+  EXPECT_EQ(sizeOfBoth(five, device), std::nullopt);
+  EXPECT_EQ(sizeOfBoth(device, three), std::nullopt);
+}
+
 // What is said of an input that holds these bytes.
 std::string lineOn(const std::string& bytes, std::optional<std::uint64_t> prologueBytes = {}) {
   std::istringstream stream(bytes);

@@ -96,6 +96,10 @@ bool JobInput::isOpen(std::ostream& errors) const {
   return error_ == 0;
 }
 
+std::optional<std::uint64_t> sizeOfBoth(const JobInput& a, const JobInput& b) {
+  return a.size() && b.size() ? std::optional(*a.size() + *b.size()) : std::nullopt;
+}
+
 bool holdsJob(const reader::JobWalk& walk, const JobStart& start) {
   const bool onlyEndMark = walk.totals().bytes == start.bytes + sizeof(Tag);
   const bool likeAJobs = start.prologue.asExpected || (start.bytes <= kLongPrologue &&

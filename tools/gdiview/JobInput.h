@@ -44,6 +44,9 @@ class JobInput {
   std::optional<std::uint64_t> size_;
 };
 
+// Of two regular files together, bytes.
+std::optional<std::uint64_t> sizeOfBoth(const JobInput& a, const JobInput& b);
+
 // What comes ahead of a stream's first record.
 struct JobStart {
   reader::Prologue prologue;

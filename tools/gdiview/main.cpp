@@ -20,10 +20,6 @@ namespace {
 
 using namespace gdi::gdiview;
 
-std::optional<std::uint64_t> sizeOfBoth(const JobInput& a, const JobInput& b) {
-  return a.size() && b.size() ? std::optional(*a.size() + *b.size()) : std::nullopt;
-}
-
 int run(CommandLine line) {
   const std::optional<std::uint64_t> prologueBytes = prologueBytesOf(line.resources);
   line.info.prologueBytes = prologueBytes;
