@@ -34,7 +34,7 @@ std::string addCommand(const CommandParser& parser, std::vector<std::string>& wo
   }
   const std::string& first = words.front();
   if (first.empty()) {
-    return "JOB: " + faultOfJob(first);
+    return std::string("JOB: ").append(faultOfJob(first));
   }
   const bool ofNoCommand = first == "-h" || first == "--help" || first == "--version";
   if (parser.isCommand(first) || ofNoCommand) {
