@@ -173,6 +173,12 @@ TEST_F(CheckJob, APictureGivenByMistakeIsNamed) {
   EXPECT_EQ(lines_.str().find("violations, "), std::string::npos);
 }
 
+TEST_F(CheckJob, APictureThatEndsLikeAJobIsStillUnusable) {
+  EXPECT_EQ(run(std::string("\x89PNG\r\n\x1a\nJIDG")), kUnusable);
+  EXPECT_EQ(errors_.str(), "gdiview: JOB: this is no job stream: it begins like a PNG picture\n");
+  EXPECT_EQ(lines_.str().find("violations, "), std::string::npos);
+}
+
 TEST_F(CheckJob, AnEmptyInputIsToldAsSuch) {
   EXPECT_EQ(run(std::string()), kUnusable);
   EXPECT_EQ(errors_.str(), "gdiview: JOB: the input is empty\n");

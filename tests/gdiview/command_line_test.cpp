@@ -88,6 +88,8 @@ TEST_F(CommandLineOfGdiview, AUsageErrorIsOneLineAndExitsWith2) {
   expectUsageError("diff job");
   expectUsageError("diff - -");
   expectUsageError("diff job job --ignore nonsense");
+  expectUsageError("diff job job --ignore ,");
+  expectUsageError("diff job job --ignore ''");
   EXPECT_FALSE(std::filesystem::exists(folder_.path() / "pictures"));
 }
 
@@ -121,6 +123,29 @@ TEST_F(CommandLineOfGdiview, WhatIsMissingIsToldWithTheCommandsHelp) {
   EXPECT_EQ(errors(), "gdiview: --out needs a value; gdiview png --help tells more\n");
   EXPECT_EQ(run(""), 2);
   EXPECT_EQ(errors(), "gdiview: there is no command and no JOB; gdiview --help tells more\n");
+}
+
+TEST_F(CommandLineOfGdiview, AnEmptyNameIsRefused) {
+  writeJob("job");
+  folder_.write("Info.plist", "{}");  // not taken for the one of a folder without a name
+  const std::string job = "JOB: it must name a file, or be -; gdiview ";
+  for (const auto& [words, line] : std::initializer_list<std::pair<const char*, std::string>>{
+           {"check ''", job + "check --help"},
+           {"'' -o pictures", job + "--help"},
+           {"diff '' job", "A: it must name a file, or be -; gdiview diff --help"},
+           {"diff job ''", "B: it must name a file, or be -; gdiview diff --help"},
+           {"check --resources '' job",
+            "--resources: it must name a folder; gdiview check --help"}}) {
+    EXPECT_EQ(run(words), 2) << words;
+    EXPECT_EQ(errors(), std::string("gdiview: ").append(line).append(" tells more\n"));
+  }
+}
+
+TEST_F(CommandLineOfGdiview, AScaleOfNoPictureIsRefused) {
+  writeJob("job");
+  EXPECT_EQ(run("diff job job --scale 1/2"), 2);
+  EXPECT_EQ(errors(), "gdiview: --scale requires --out; gdiview diff --help tells more\n");
+  EXPECT_EQ(run("diff job job --scale 1/2 -o pictures"), 0);
 }
 
 TEST_F(CommandLineOfGdiview, WhatIsTooMuchIsTold) {
@@ -234,8 +259,8 @@ TEST_F(CommandLineOfGdiview, AFullStandardOutputExitsWith2) {
     GTEST_SKIP() << "there is no /dev/full";
   }
   writeJob("job");
-  for (const char* words : {"--help", "info job", "info --json job", "info --page 1 job",
-                            "check job", "job -o pictures"}) {
+  for (const char* words : {"--help", "diff --help", "check --rules", "info job", "info --json job",
+                            "info --page 1 job", "check job", "job -o pictures"}) {
     EXPECT_EQ(run(words, "/dev/null", "/dev/full"), 2) << words;
     EXPECT_EQ(errors(), "gdiview: standard output: No space left on device\n") << words;
   }

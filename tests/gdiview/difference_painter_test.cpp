@@ -38,7 +38,7 @@ Colors nextColors(Picture& picture) {
 TEST(DifferencePainter, EqualPixelsArePaleAndOthersTellWhichPageHasMoreInk) {
   const Page a = blackPage(5, {rowStartingWith({0b10100000})});
   const Page b = blackPage(5, {rowStartingWith({0b11000000})});
-  DifferencePainter painter(a, b);
+  DifferencePainter painter(a, b, 1);
   EXPECT_EQ(painter.width(), 5U);
   EXPECT_EQ(painter.height(), 1U);
   EXPECT_EQ(painter.channels(), 3U);
@@ -51,7 +51,7 @@ TEST(DifferencePainter, ItShowsTheFirstPageAsGreyHoweverColouredItIs) {
   Page page = pageWith(1, 4, 3);
   add(page, Ink::kCyan, {rowStartingWith({0b11000000})});
   add(page, Ink::kYellow, {rowStartingWith({0b01000000})});
-  DifferencePainter painter(page, page);
+  DifferencePainter painter(page, page, 1);
   // (0, 160, 225) is as bright as grey 120, (0, 144, 0) as 85: 135 and 170 divided by 4.
   EXPECT_EQ(nextColors(painter), (Colors{{222, 222, 222}, {213, 213, 213}, kWhite}));
 }
@@ -65,7 +65,7 @@ TEST(DifferencePainter, DifferentInksInBothPagesAreViolet) {
   add(b, Ink::kMagenta, {rowStartingWith({0x10})});
   add(a, Ink::kBlack, {rowStartingWith({0x00, 0x0F})});
   add(b, Ink::kBlack, {rowStartingWith({0x00, 0x0E})});
-  DifferencePainter painter(a, b);
+  DifferencePainter painter(a, b, 1);
   EXPECT_EQ(nextColors(painter), (Colors{{150, 0, 150}, kMoreInA, kMoreInB, kMoreInA}));
 }
 
@@ -98,12 +98,12 @@ TEST(DifferencePainter, OneCellCanStandForAll) {
 TEST(DifferencePainter, WhatOnePageLacksIsBlankInIt) {
   const Page small = blackPage(2, {rowStartingWith({0b10000000})});
   const Page large = blackPage(3, {rowStartingWith({0b10100000}), rowStartingWith({0b01000000})});
-  DifferencePainter painter(small, large);
+  DifferencePainter painter(small, large, 1);
   ASSERT_EQ(painter.width(), 3U);
   ASSERT_EQ(painter.height(), 2U);
   EXPECT_EQ(nextColors(painter), (Colors{kPaleBlack, kWhite, kMoreInB}));
   EXPECT_EQ(nextColors(painter), (Colors{kWhite, kMoreInB, kWhite}));
-  DifferencePainter swapped(large, small);
+  DifferencePainter swapped(large, small, 1);
   EXPECT_EQ(nextColors(swapped), (Colors{kPaleBlack, kWhite, kMoreInA}));
   EXPECT_EQ(nextColors(swapped), (Colors{kWhite, kMoreInA, kWhite}));
 }
@@ -113,7 +113,7 @@ TEST(DifferencePainter, AMonoPageIsComparedWithAColourPage) {
   Page color = pageWith(1, 4, 3);
   add(color, Ink::kBlack, {rowStartingWith({0b10000000})});
   add(color, Ink::kYellow, {rowStartingWith({0b01100000})});
-  DifferencePainter painter(mono, color);
+  DifferencePainter painter(mono, color, 1);
   EXPECT_EQ(nextColors(painter), (Colors{kPaleBlack, kMoreInBoth, kMoreInB}));
 }
 

@@ -85,6 +85,35 @@ TEST_F(InfoJob, ThatThereIsNoPrologueIsToldAsSuch) {
   EXPECT_EQ(out_.str().find("offset 0: no prologue\noffset 0: job record, "), 0U);
 }
 
+TEST_F(InfoJob, ABandsFieldsAreToldWithTheirMeanings) {
+  JobBuilder job;
+  job.jobRecord(1).hostRecord().pageRecord({.rows = 1});
+  job.band({.flags = jobtest::kFirst | jobtest::kLast, .rows = 1, .pageBlank = true},
+           jobtest::literalBand({rowOf(0)}, true));
+  options_.prologueBytes.reset();
+  (void)run(job.end());
+  EXPECT_NE(out_.str().find(", page_blank 1 (the page is blank), "), std::string::npos);
+}
+
+TEST_F(InfoJob, OfAPictureThatEndsLikeAJobNothingIsPrinted) {
+  for (const bool json : {false, true}) {
+    options_.json = json;
+    JobBuilder picture;
+    EXPECT_EQ(run(picture.text("\x89PNG\r\n\x1a\n").end()), kUnusable);
+    EXPECT_EQ(out_.str(), "");
+  }
+}
+
+TEST_F(InfoJob, AJobWithoutPagesIsItsPrologueAndItsEnd) {
+  JobBuilder job;
+  EXPECT_EQ(run(job.text(kPrologue).end()), kSound);
+  EXPECT_EQ(out_.str().find("offset 0: prologue, 6 bytes, as long as Info.plist says\n"
+                            "  \"\\x1b%P\\\"\\r\\n\"\n"
+                            "offset 6: end-of-job mark, 4 bytes\n"
+                            "job: 0 pages\n"),
+            0U);
+}
+
 // The band's data are bytes of no code word: nobody knows whether it had ink.
 TEST_F(InfoJob, APageWithALostBandIsNotCalledBlank) {
   options_.page = 1;

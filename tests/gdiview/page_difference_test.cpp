@@ -3,9 +3,12 @@
 
 #include "tools/gdiview/page_difference.h"
 
+#include <cstdint>
+#include <vector>
+
 #include <gtest/gtest.h>
 
-#include "tests/gdiview/small_pages.h"
+#include "tests/gdiview/page_difference_fixture.h"
 
 namespace gdi::gdiview {
 namespace {
@@ -15,30 +18,9 @@ using jobtest::Rows;
 using reader::Ink;
 using reader::Page;
 
-// A page of one band of black.
-Page blackPage(unsigned bitsPerPixel, std::uint32_t width, const Rows& rows) {
-  Page page = pageWith(bitsPerPixel, 1, width);
-  add(page, Ink::kBlack, rows);
-  return page;
-}
-
-PlaneDifference blackDifference(const Page& a, const Page& b) {
-  return differenceOf(a, b).plane(Ink::kBlack);
-}
-
-void expectSame(const PlaneDifference& plane) {
-  EXPECT_EQ(plane.pixels, 0U);
-  EXPECT_EQ(plane.paddingBits, 0U);
-  for (const BandCount& bands :
-       {plane.different, plane.recoded, plane.decodedInA, plane.decodedInB, plane.lostOtherwise}) {
-    EXPECT_EQ(bands.count, 0U);
-    EXPECT_FALSE(bands.first);
-  }
-}
-
 TEST(PageDifference, EqualPagesDifferInNothing) {
   const Page page = blackPage(1, 96, {rowStartingWith({0xA0, 0x01})});
-  const PageDifference difference = differenceOf(page, page);
+  const PageDifference difference = compared(page, page);
   EXPECT_TRUE(difference.comparable);
   EXPECT_TRUE(difference.samePixels());
   expectSame(difference.plane(Ink::kBlack));
@@ -52,7 +34,7 @@ TEST(PageDifference, PixelsAreCountedAndTheFirstIsTheLeftmostInTheTopmostRow) {
   const Page b = blackPage(
       1, 96,
       {rowStartingWith({0xFF}), rowStartingWith({0x00, 0x00, 0x09}), rowStartingWith({0x00})});
-  const PageDifference difference = differenceOf(a, b);
+  const PageDifference difference = compared(a, b);
   const PlaneDifference& black = difference.plane(Ink::kBlack);
   EXPECT_EQ(black.pixels, 4U);  // three in the row of 0x10 ^ 0x09, one in the row below
   EXPECT_EQ(black.firstPixel, (PixelPlace{19, 1}));
@@ -86,7 +68,7 @@ TEST(PageDifference, EqualRowsInOtherBytesAreABandCodedOtherwise) {
   }
   planeOf(b, Ink::kBlack).append(1, band);
   ASSERT_EQ(b.plane(Ink::kBlack).rowsOfBand(0), Bytes(16, 0xFF));
-  const PageDifference difference = differenceOf(a, b);
+  const PageDifference difference = compared(a, b);
   const PlaneDifference& black = difference.plane(Ink::kBlack);
   EXPECT_EQ(black.recoded.count, 1U);
   EXPECT_EQ(black.recoded.first, 0U);
@@ -98,7 +80,7 @@ TEST(PageDifference, BitsRightOfTheWidthAreCountedAsPadding) {
   Bytes padded = rowStartingWith({0b10000'111});
   padded[15] = 0x81;
   const PageDifference difference =
-      differenceOf(blackPage(1, 5, {rowStartingWith({0b10000'001})}), blackPage(1, 5, {padded}));
+      compared(blackPage(1, 5, {rowStartingWith({0b10000'001})}), blackPage(1, 5, {padded}));
   const PlaneDifference& black = difference.plane(Ink::kBlack);
   EXPECT_EQ(black.pixels, 0U);
   EXPECT_FALSE(black.firstPixel);
@@ -161,87 +143,35 @@ TEST(PageDifference, RowsThatOnePageLacksAreBlankInIt) {
   }
 }
 
+// Black has three rows in one page and one in the other, and cyan has two: five to compare. Cyan's
+// are in one band that is the same in both.
+TEST(PageDifference, ComparedRowsAreCountedThroughAllPlanes) {
+  Page a = pageWith(1, 4, 96);
+  add(a, Ink::kCyan, {rowStartingWith({0x01}), rowStartingWith({0x02})});
+  Page b = a;
+  add(a, Ink::kBlack, {rowStartingWith({0x01})});
+  add(b, Ink::kBlack, {rowStartingWith({0x02}), rowStartingWith({0x04}), rowStartingWith({0x08})});
+  std::vector<std::uint64_t> counts;
+  (void)differenceOf(a, b, [&counts](std::uint64_t done, std::uint64_t all) {
+    EXPECT_EQ(all, 5U);
+    counts.push_back(done);
+  });
+  EXPECT_EQ(counts, (std::vector<std::uint64_t>{2, 3, 4, 5}));
+}
+
 TEST(PageDifference, APlaneThatOnePageLacksIsBlankInIt) {
   const Page mono = blackPage(1, 96, {rowStartingWith({0xFF})});
   Page color = pageWith(1, 4, 96);
   add(color, Ink::kBlack, {rowStartingWith({0xFF})});
   add(color, Ink::kCyan, {rowStartingWith({0x00, 0x3C})});
   add(color, Ink::kMagenta, {rowStartingWith({0x00})});
-  const PageDifference difference = differenceOf(mono, color);
+  const PageDifference difference = compared(mono, color);
   expectSame(difference.plane(Ink::kBlack));
   EXPECT_EQ(difference.plane(Ink::kCyan).pixels, 4U);
   EXPECT_EQ(difference.plane(Ink::kCyan).firstPixel, (PixelPlace{10, 0}));
   EXPECT_EQ(difference.plane(Ink::kCyan).different.count, 0U);
   expectSame(difference.plane(Ink::kMagenta));
   expectSame(difference.plane(Ink::kYellow));
-}
-
-TEST(PageDifference, ALostBandIsBlankAndItsNeighboursAreStillEqual) {
-  Page a = blackPage(1, 96, {rowStartingWith({0x11})});
-  Page b = a;
-  add(a, Ink::kBlack, {rowStartingWith({0x07})});
-  planeOf(b, Ink::kBlack).appendLost(1);
-  add(a, Ink::kBlack, {rowStartingWith({0x22})});
-  add(b, Ink::kBlack, {rowStartingWith({0x22})});
-  const PlaneDifference black = blackDifference(a, b);
-  EXPECT_EQ(black.pixels, 3U);
-  EXPECT_EQ(black.firstPixel, (PixelPlace{5, 1}));
-  EXPECT_EQ(black.different.count, 1U);
-  EXPECT_EQ(black.different.first, 1U);
-  EXPECT_EQ(black.decodedInA.count, 1U);
-  EXPECT_EQ(black.decodedInA.first, 1U);
-  EXPECT_EQ(black.decodedInB.count, 0U);
-  EXPECT_EQ(black.recoded.count, 0U);
-}
-
-TEST(PageDifference, ABandThatIsLostInOneAndBlankInTheOtherIsDecodedOnlyInThat) {
-  Page lost = blackPage(1, 96, {rowStartingWith({0x11})});
-  Page blank = lost;
-  planeOf(lost, Ink::kBlack).appendLost(1);
-  add(blank, Ink::kBlack, {rowStartingWith({0x00})});
-  PlaneDifference black = blackDifference(lost, blank);
-  EXPECT_EQ(black.decodedInB.count, 1U);
-  EXPECT_EQ(black.decodedInB.first, 1U);
-  black.decodedInB = {};
-  expectSame(black);
-  black = blackDifference(blank, lost);
-  EXPECT_EQ(black.decodedInA.count, 1U);
-  EXPECT_EQ(black.decodedInB.count, 0U);
-}
-
-TEST(PageDifference, BandsThatAreLostInBothAreComparedByTheirChecksums) {
-  const auto lostBand = [](const Bytes& bytes) {
-    reader::Checksum checksum;
-    checksum.add(bytes);
-    Page page = blackPage(1, 96, {rowStartingWith({0x11})});
-    planeOf(page, Ink::kBlack).appendLost(1, checksum);
-    return page;
-  };
-  expectSame(blackDifference(lostBand({1, 2}), lostBand({1, 2})));
-  PlaneDifference black = blackDifference(lostBand({1, 2}), lostBand({1, 3}));
-  EXPECT_EQ(black.lostOtherwise.count, 1U);
-  EXPECT_EQ(black.lostOtherwise.first, 1U);
-  black.lostOtherwise = {};
-  expectSame(black);
-}
-
-// A page whose record's bits a row are none that exist.
-TEST(PageDifference, APageWithoutPixelsIsComparedAllTheSame) {
-  Page none = pageWith(1, 1, 96);
-  none.rowBits = 0;
-  none.planes.fill(reader::StoredPlane(0, 1000));
-  planeOf(none, Ink::kBlack).appendLost(256);
-  ASSERT_EQ(none.widthPixels(), 0U);
-  const PageDifference same = differenceOf(none, none);
-  EXPECT_TRUE(same.samePixels());
-  expectSame(same.plane(Ink::kBlack));
-  const Page page = blackPage(1, 96, {rowStartingWith({0x11})});
-  for (const PlaneDifference& black : {blackDifference(none, page), blackDifference(page, none)}) {
-    EXPECT_EQ(black.pixels, 2U);
-    EXPECT_EQ(black.firstPixel, (PixelPlace{3, 0}));
-    EXPECT_EQ(black.paddingBits, 0U);
-    EXPECT_EQ(black.decodedInA.count + black.decodedInB.count, 1U);
-  }
 }
 
 TEST(PageDifference, RowsAreComparedWhereTheyStandWhateverTheirBands) {
@@ -266,8 +196,8 @@ TEST(PageDifference, RowsAreComparedWhereTheyStandWhateverTheirBands) {
 }
 
 TEST(PageDifference, PixelsOfDifferentBitsAreNotComparable) {
-  const PageDifference difference = differenceOf(blackPage(1, 20, {rowStartingWith({0xFF})}),
-                                                 blackPage(2, 20, {rowStartingWith({0x00})}));
+  const PageDifference difference = compared(blackPage(1, 20, {rowStartingWith({0xFF})}),
+                                             blackPage(2, 20, {rowStartingWith({0x00})}));
   EXPECT_FALSE(difference.comparable);
   EXPECT_FALSE(difference.samePixels());
   EXPECT_EQ(difference.plane(Ink::kBlack).pixels, 0U);

@@ -19,7 +19,7 @@ using reader::Page;
 TEST(PagePainter, OneBitPixelsComeFromTheMostSignificantBitOn) {
   Page page = pageWith(1, 1);
   add(page, Ink::kBlack, {rowStartingWith({0xA0, 0x01})});
-  PagePainter painter(page);
+  PagePainter painter(page, {});
   EXPECT_EQ(painter.width(), 96U);
   EXPECT_EQ(painter.height(), 1U);
   EXPECT_EQ(painter.channels(), 1U);
@@ -31,14 +31,14 @@ TEST(PagePainter, OneBitPixelsComeFromTheMostSignificantBitOn) {
 TEST(PagePainter, PixelsOfTwoAndFourBitsAreGreys) {
   Page two = pageWith(2, 1);
   add(two, Ink::kBlack, {rowStartingWith({0b00'01'10'11})});
-  PagePainter twoBits(two);
+  PagePainter twoBits(two, {});
   Bytes row = next(twoBits);
   EXPECT_EQ(row.size(), 48U);
   EXPECT_EQ(Bytes(row.begin(), row.begin() + 5), (Bytes{255, 170, 85, 0, 255}));
 
   Page four = pageWith(4, 1);
   add(four, Ink::kBlack, {rowStartingWith({0x0F, 0x1E})});
-  PagePainter fourBits(four);
+  PagePainter fourBits(four, {});
   row = next(fourBits);
   EXPECT_EQ(row.size(), 24U);
   EXPECT_EQ(Bytes(row.begin(), row.begin() + 5), (Bytes{255, 0, 238, 17, 255}));
@@ -50,7 +50,7 @@ TEST(PagePainter, AColourPageIsRedGreenBlue) {
   add(page, Ink::kMagenta, {rowStartingWith({0b01000000})});
   add(page, Ink::kYellow, {rowStartingWith({0b00010000})});
   add(page, Ink::kBlack, {rowStartingWith({0b00100000})});
-  PagePainter painter(page);
+  PagePainter painter(page, {});
   EXPECT_EQ(painter.channels(), 3U);
   const Bytes row = next(painter);
   ASSERT_EQ(row.size(), 288U);
@@ -62,7 +62,7 @@ TEST(PagePainter, APlaneThatEndsEarlyIsBlankFromThereOn) {
   Page page = pageWith(1, 4);
   add(page, Ink::kBlack, jobtest::solidRows(2, 16, 0xFF));
   add(page, Ink::kCyan, jobtest::solidRows(3, 16, 0xFF));
-  PagePainter painter(page);
+  PagePainter painter(page, {});
   ASSERT_EQ(painter.height(), 3U);
   EXPECT_EQ(next(painter)[1], 0);
   EXPECT_EQ(next(painter)[1], 0);
@@ -184,7 +184,7 @@ TEST(PagePainter, TurnedTwiceAPageIsAsItWas) {
                           static_cast<std::uint8_t>(value(2) << 4 | value(3)),
                           static_cast<std::uint8_t>(value(4) << 4)})});
   }
-  PagePainter plain(page);
+  PagePainter plain(page, {});
   PagePainter twice(turned, {.upright = true});
   const Bytes expected = all(plain);
   EXPECT_EQ(Bytes(expected.begin(), expected.begin() + 5), (Bytes{238, 221, 204, 187, 170}));

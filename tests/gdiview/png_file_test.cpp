@@ -97,6 +97,14 @@ TEST_F(PngFileOnDisk, WhatAKilledRunLeftIsReplaced) {
   EXPECT_FALSE(std::filesystem::exists(scratch_ / "picture.png.part"));
 }
 
+TEST_F(PngFileOnDisk, AFolderInTheWayStays) {
+  std::filesystem::create_directory(scratch_ / "picture.png.part");
+  errno = 0;
+  EXPECT_EQ(PngFile::create(picture_, {3, 1, 1, 23622}), nullptr);
+  EXPECT_EQ(errno, EISDIR);
+  EXPECT_TRUE(std::filesystem::is_directory(scratch_ / "picture.png.part"));
+}
+
 // A link of the picture's name is replaced, and what it leads to stays as it is.
 TEST_F(PngFileOnDisk, NothingIsWrittenThroughALink) {
   std::ofstream(scratch_ / "other") << "other";

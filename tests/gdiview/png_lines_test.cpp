@@ -101,6 +101,12 @@ TEST_F(PngLines, APictureThatCannotBeWrittenIsToldWithItsName) {
   EXPECT_EQ(errors_.str(), "gdiview: " + pathOf("page-1") + ": Is a directory\n");
 }
 
+TEST_F(PngLines, AFolderWithThePartsNameIsToldWithItsName) {
+  std::filesystem::create_directories(pathOf("page-1") + ".part");
+  EXPECT_EQ(run(twoPages()), kUnusable);
+  EXPECT_EQ(errors_.str(), "gdiview: " + pathOf("page-1") + ".part: Is a directory\n");
+}
+
 // The record behind a page is read before the page is known to be over: 496 of 756 bytes are page
 // 1's, in two rows, and 256 page 2's, in one. The line is gone ahead of each page's line.
 TEST_F(PngLines, ATerminalSeesHowMuchIsPainted) {
@@ -132,6 +138,19 @@ TEST_F(PngLines, ThePlanesPicturesCountAsTheOtherOnes) {
             std::string::npos);
   EXPECT_NE(lines_.str().find("\rgdiview: page 1, 49 %\rgdiview: page 1, 65 %\r"),
             std::string::npos);
+}
+
+TEST_F(PngLines, AJobWithoutPagesIsToldAsSuch) {
+  JobBuilder job;
+  EXPECT_EQ(run(job.text("HELLO\n").end()), kSound);
+  EXPECT_EQ(lines_.str(), "JOB: 0 pages, no picture\n");
+}
+
+TEST_F(PngLines, APictureThatEndsLikeAJobIsUnusable) {
+  JobBuilder picture;
+  EXPECT_EQ(run(picture.text("\x89PNG\r\n\x1a\n").end()), kUnusable);
+  EXPECT_EQ(errors_.str(), "gdiview: JOB: this is no job stream: it begins like a PNG picture\n");
+  EXPECT_EQ(lines_.str(), "");
 }
 
 TEST_F(PngLines, WhatHasNoPictureLeavesNoFolder) {

@@ -169,15 +169,19 @@ void CommandParser::addPng() {
 void CommandParser::addDiff() {
   CLI::App& command =
       add(Command::kDiff, "diff", "Compare two jobs: fields, bands and pixels, page by page");
-  command.add_option("A", line_.job, kJobHelp)->required();
-  command.add_option("B", line_.otherJob, kJobHelp)->required();
-  command
-      .add_option("-o,--out", diffFolder_,
-                  "A folder for page-1-diff.png and so on: red where A has more ink, blue where\n"
-                  "B has, violet where each has more of some")
-      ->option_text("DIR")
-      ->check(faultOfFolder);
-  addScale(command);
+  command.add_option("A", line_.job, kJobHelp)->check(faultOfJob)->required();
+  command.add_option("B", line_.otherJob, kJobHelp)->check(faultOfJob)->required();
+  CLI::Option* const folder =
+      command
+          .add_option(
+              "-o,--out", diffFolder_,
+              "A folder for page-1-diff.png and so on: red where A has more ink, blue where\n"
+              "B has, violet where each has more of some")
+          ->option_text("DIR")
+          ->check(faultOfFolder);
+  CLI::Option& scale = addScale(command);
+  scale.needs(folder);
+  scale.description(scale.get_description() + ";\nonly with -o");
   command
       .add_option("--ignore", ignored_,
                   "Fields that may differ, as info names them and with a comma between two, for\n"
@@ -193,7 +197,7 @@ void CommandParser::addDiff() {
 }
 
 void CommandParser::addJob(CLI::App& command) {
-  command.add_option("JOB", line_.job, kJobHelp)->required();
+  command.add_option("JOB", line_.job, kJobHelp)->check(faultOfJob)->required();
 }
 
 void CommandParser::addPage(CLI::App& command, std::optional<std::uint32_t>& page) {
@@ -202,12 +206,12 @@ void CommandParser::addPage(CLI::App& command, std::optional<std::uint32_t>& pag
       ->check(faultOfPage);
 }
 
-void CommandParser::addScale(CLI::App& command) {
-  command
-      .add_option("--scale", scale_,
-                  "1/N: one sample for N x N pixels, their mean, so that dots become tones")
-      ->option_text("1/N")
-      ->check(faultOfScale);
+CLI::Option& CommandParser::addScale(CLI::App& command) {
+  return *command
+              .add_option("--scale", scale_,
+                          "1/N: one sample for N x N pixels, their mean, so that dots become tones")
+              ->option_text("1/N")
+              ->check(faultOfScale);
 }
 
 void CommandParser::addResources(CLI::App& command) {
@@ -216,6 +220,7 @@ void CommandParser::addResources(CLI::App& command) {
                   "The filter's resources, whose Info.plist tells how long the prologue is;\n"
                   "those beside the program or installed with it if left out")
       ->option_text("FOLDER")
+      ->check(faultOfFolder)
       ->check([](const std::string& folder) {
         const std::string fault = faultOfResources(folder);
         return fault.empty() ? fault : folder + ": " + fault;

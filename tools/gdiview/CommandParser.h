@@ -35,7 +35,7 @@ class CommandParser {
 
   void addJob(CLI::App& command);
   static void addPage(CLI::App& command, std::optional<std::uint32_t>& page);
-  void addScale(CLI::App& command);
+  CLI::Option& addScale(CLI::App& command);
   void addResources(CLI::App& command);
 
   CommandLine& line_;

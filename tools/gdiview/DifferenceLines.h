@@ -54,13 +54,6 @@ class DifferenceLines {
   // A record that a job may lack: it is empty then.
   void record(const std::string& record, reader::RecordKind kind, std::span<const std::uint8_t> a,
               std::span<const std::uint8_t> b);
-  class FieldCounts;  // of the fields in which a page's band records differ
-
-  void bandRecords(const reader::Page& a, const reader::Page& b);
-  void bandRecord(const std::string& name, const reader::BandOnPage& a, const reader::BandOnPage& b,
-                  FieldCounts& counts) const;
-  // How many bands of a kind the pages have.
-  void bandCounts(const std::string& where, const char* what, std::size_t a, std::size_t b);
   void strayBytes(const reader::Page& a, const reader::Page& b);
   void plane(const std::string& plane, const PlaneDifference& difference);
   void line(const std::string& where, const std::string& what);

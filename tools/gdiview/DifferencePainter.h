@@ -28,7 +28,7 @@ class DifferencePainter : public Picture {
   // blank in it, as in page_difference.h. One sample stands for `reduction` x `reduction` pixels:
   // their mean if they are equal, and coloured if a single one differs. Both pages must outlive the
   // painter. requires: a.bitsPerPixel == b.bitsPerPixel, reduction > 0
-  DifferencePainter(const reader::Page& a, const reader::Page& b, std::uint32_t reduction = 1);
+  DifferencePainter(const reader::Page& a, const reader::Page& b, std::uint32_t reduction);
 
   std::span<const std::uint8_t> nextRow() override;
 

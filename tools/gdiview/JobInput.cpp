@@ -11,6 +11,8 @@
 #include <string_view>
 #include <system_error>
 
+#include "printer/format/job_stream_format.h"
+#include "reader/counted.h"
 #include "tools/gdiview/escaped_text.h"
 
 namespace gdi::gdiview {
@@ -37,15 +39,33 @@ constexpr std::array<FileKind, 11> kOtherFiles{{
     {"PK\x03\x04", "a ZIP file"},
 }};
 
-std::string startsLike(const reader::Prologue& prologue) {
+// Longer than any prologue that somebody has seen, bytes.
+constexpr std::uint64_t kLongPrologue = 65536;
+
+// The kind of another file that these bytes begin like; null when they do not.
+const char* nameOfOtherFile(const reader::Prologue& prologue) {
   for (const FileKind& kind : kOtherFiles) {
     if (prologue.start.size() >= kind.start.size() &&
         std::equal(kind.start.begin(), kind.start.end(), prologue.start.begin(),
                    [](char a, std::uint8_t b) { return static_cast<std::uint8_t>(a) == b; })) {
-      return std::string(": it begins like ") + kind.name;
+      return kind.name;
     }
   }
-  return ": it holds no record of one";
+  return nullptr;
+}
+
+// Why the walk, which is over, holds no job.
+std::string reasonAgainst(const reader::JobWalk& walk, const JobStart& start) {
+  if (walk.offset() == 0) {
+    return "the input is empty";
+  }
+  std::string reason = "this is no job stream: ";
+  if (const char* const name = nameOfOtherFile(start.prologue); name != nullptr) {
+    return reason.append("it begins like ").append(name);
+  }
+  return walk.foundRecord()
+             ? reason.append("no job record in ").append(reader::counted(walk.offset(), "byte"))
+             : reason.append("it holds no record of one");
 }
 
 }  // namespace
@@ -76,20 +96,29 @@ bool JobInput::isOpen(std::ostream& errors) const {
   return error_ == 0;
 }
 
-bool isJobStream(const reader::JobWalk& walk, const reader::Prologue& start,
-                 const std::string& name, std::ostream& errors) {
+std::optional<std::uint64_t> sizeOfBoth(const JobInput& a, const JobInput& b) {
+  return a.size() && b.size() ? std::optional(*a.size() + *b.size()) : std::nullopt;
+}
+
+bool holdsJob(const reader::JobWalk& walk, const JobStart& start) {
+  const bool onlyEndMark = walk.totals().bytes == start.bytes + sizeof(Tag);
+  const bool likeAJobs = start.prologue.asExpected || (start.bytes <= kLongPrologue &&
+                                                       nameOfOtherFile(start.prologue) == nullptr);
+  return walk.foundRecord() && (!onlyEndMark || likeAJobs);
+}
+
+bool isJobStream(const reader::JobWalk& walk, const JobStart& start, const std::string& name,
+                 std::ostream& errors) {
   if (walk.failed()) {
     errors << "gdiview: " << nameInLine(name) << ": the input cannot be read beyond offset "
            << walk.offset() << '\n';
     return false;
   }
-  if (!walk.foundRecord()) {
-    errors << "gdiview: " << nameInLine(name)
-           << (walk.offset() == 0 ? ": the input is empty"
-                                  : ": this is no job stream" + startsLike(start))
-           << '\n';
+  const bool job = holdsJob(walk, start);
+  if (!job) {
+    errors << "gdiview: " << nameInLine(name) << ": " << reasonAgainst(walk, start) << '\n';
   }
-  return walk.foundRecord();
+  return job;
 }
 
 void tellMissingPage(const std::string& name, std::uint32_t page, const reader::JobTotals& totals,

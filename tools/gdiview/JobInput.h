@@ -44,10 +44,24 @@ class JobInput {
   std::optional<std::uint64_t> size_;
 };
 
+// Of two regular files together, bytes.
+std::optional<std::uint64_t> sizeOfBoth(const JobInput& a, const JobInput& b);
+
+// What comes ahead of a stream's first record.
+struct JobStart {
+  reader::Prologue prologue;
+  std::uint64_t bytes = 0;  // of the whole prologue
+};
+
+// Whether what the walk has read is of a job: it has seen more of one than an end-of-job mark, or
+// that mark follows what may be a prologue. Four bytes at its end make a job of no other file.
+// requires: the walk has gone past the first record
+bool holdsJob(const reader::JobWalk& walk, const JobStart& start);
+
 // Whether the walk, which is over, has seen a job stream and could read on. If not, one line says
 // what there was instead: that the input cannot be read, that it is empty, or what it looks like.
-bool isJobStream(const reader::JobWalk& walk, const reader::Prologue& start,
-                 const std::string& name, std::ostream& errors);
+bool isJobStream(const reader::JobWalk& walk, const JobStart& start, const std::string& name,
+                 std::ostream& errors);
 
 // The line for a page that the user asked for and the job, read to its end, does not have.
 void tellMissingPage(const std::string& name, std::uint32_t page, const reader::JobTotals& totals,

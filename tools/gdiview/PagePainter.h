@@ -31,7 +31,7 @@ struct PaintOptions {
 class PagePainter : public Picture {
  public:
   // `page` must outlive the painter.
-  explicit PagePainter(const reader::Page& page, const PaintOptions& options = {});
+  PagePainter(const reader::Page& page, const PaintOptions& options);
 
   std::span<const std::uint8_t> nextRow() override;
 

@@ -5,8 +5,9 @@
 
 #include <cerrno>
 #include <csetjmp>
-#include <system_error>
 #include <utility>
+
+#include <unistd.h>
 
 namespace gdi::gdiview {
 
@@ -17,12 +18,18 @@ constexpr int kCompressionLevel = 3;
 
 }  // namespace
 
+std::filesystem::path PngFile::partPathOf(const std::filesystem::path& path) {
+  std::filesystem::path part = path;
+  part += ".part";
+  return part;
+}
+
 std::unique_ptr<PngFile> PngFile::create(const std::filesystem::path& path,
                                          const PngLayout& layout) {
-  std::filesystem::path partPath = path;
-  partPath += ".part";
-  std::error_code ignored;
-  std::filesystem::remove(partPath, ignored);
+  std::filesystem::path partPath = partPathOf(path);
+  if (::unlink(partPath.c_str()) != 0 && errno != ENOENT) {
+    return nullptr;
+  }
   // A file of this run's own, never what a link of that name leads to.
   std::FILE* file = std::fopen(partPath.c_str(), "wbex");
   if (file == nullptr) {
@@ -46,8 +53,7 @@ PngFile::~PngFile() {
     (void)std::fclose(file_);
   }
   if (!finished_) {
-    std::error_code ignored;
-    std::filesystem::remove(partPath_, ignored);
+    (void)::unlink(partPath_.c_str());
   }
   errno = error;
 }

@@ -24,8 +24,10 @@ struct PngLayout {
 
 class PngFile {
  public:
-  // Null when the file cannot be made; errno says why. Until it is finished it is `path` with
-  // ".part" behind it; what is left there of an earlier try goes.
+  // What the file is called until it is finished: `path` with ".part" behind it.
+  static std::filesystem::path partPathOf(const std::filesystem::path& path);
+  // Null when partPathOf(path) cannot be made or written; errno says why. A file that is left there
+  // of an earlier try goes; a folder stays, and is in the way.
   static std::unique_ptr<PngFile> create(const std::filesystem::path& path,
                                          const PngLayout& layout);
   ~PngFile();

@@ -19,17 +19,17 @@ int checkJob(JobInput& input, const CheckOptions& options, Progress& progress, s
     }
   };
   reader::JobWalk walk(input.stream(), tell, options.prologueBytes);
-  reader::Prologue prologue;
+  JobStart start;
   std::uint64_t bands = 0;
   while (std::optional<reader::JobStep> job = walk.next()) {
     progress.update(walk.totals().pages, walk.offset());
     bands += std::holds_alternative<reader::Band>(job->step.record) ? 1 : 0;
-    if (auto* start = std::get_if<reader::Prologue>(&job->step.record)) {
-      prologue = std::move(*start);
+    if (auto* prologue = std::get_if<reader::Prologue>(&job->step.record)) {
+      start = {std::move(*prologue), job->step.bytes};
     }
   }
   progress.clear();
-  if (!isJobStream(walk, prologue, input.name(), errors)) {
+  if (!isJobStream(walk, start, input.name(), errors)) {
     return statusAfterWriting(out, kUnusable, errors);
   }
   const reader::JobTotals& totals = walk.totals();

@@ -5,10 +5,12 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <sstream>
 #include <system_error>
 
 #include "tools/gdiview/CommandParser.h"
 #include "tools/gdiview/escaped_text.h"
+#include "tools/gdiview/option_values.h"
 
 namespace gdi::gdiview {
 
@@ -31,6 +33,9 @@ std::string addCommand(const CommandParser& parser, std::vector<std::string>& wo
     return "there is no command and no JOB";
   }
   const std::string& first = words.front();
+  if (first.empty()) {
+    return std::string("JOB: ").append(faultOfJob(first));
+  }
   const bool ofNoCommand = first == "-h" || first == "--help" || first == "--version";
   if (parser.isCommand(first) || ofNoCommand) {
     return "";
@@ -40,6 +45,14 @@ std::string addCommand(const CommandParser& parser, std::vector<std::string>& wo
   }
   words.insert(words.begin(), "png");
   return "";
+}
+
+// All of it goes through the stream's buffer: what passes it by is gone when it cannot be written,
+// and with it the reason that statusAfterWriting() looks for.
+void writeByteByByte(std::ostream& out, const std::string& text) {
+  for (const char byte : text) {
+    out.put(byte);
+  }
 }
 
 // An option that does not exist is told ahead of anything that is missing.
@@ -78,7 +91,10 @@ std::variant<CommandLine, int> readCommandLine(std::vector<std::string> words, s
     // The parser takes the words from the back.
     parser.app().parse(std::vector<std::string>(words.rbegin(), words.rend()));
   } catch (const CLI::Success& success) {
-    return statusAfterWriting(out, parser.app().exit(success, out, errors), errors);
+    std::ostringstream text;
+    const int status = parser.app().exit(success, text, errors);
+    writeByteByByte(out, text.str());
+    return statusAfterWriting(out, status, errors);
   } catch (const CLI::ParseError& error) {
     return refuse(faultOf(parser, error));
   }

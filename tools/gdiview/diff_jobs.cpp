@@ -5,14 +5,11 @@
 
 #include <algorithm>
 #include <sstream>
-#include <utility>
 
-#include "reader/JobReader.h"
 #include "reader/page_resolution.h"
+#include "tools/gdiview/ComparedJob.h"
 #include "tools/gdiview/DifferenceLines.h"
 #include "tools/gdiview/DifferencePainter.h"
-#include "tools/gdiview/FindingLines.h"
-#include "tools/gdiview/OtherSteps.h"
 #include "tools/gdiview/escaped_text.h"
 #include "tools/gdiview/page_difference.h"
 #include "tools/gdiview/picture_file.h"
@@ -24,85 +21,96 @@ namespace {
 
 using reader::RecordKind;
 
-// One of the two jobs, read page by page; what is wrong with it becomes lines in `errors`.
-class Side {
+class JobComparison {
  public:
-  Side(JobInput& input, const DiffOptions& options, Progress& progress, std::ostream& errors)
-      : name_(input.name()),
+  JobComparison(JobInput& a, JobInput& b, const DiffOptions& options, Progress& progress,
+                std::ostream& out, std::ostream& errors)
+      : options_(options),
+        progress_(progress),
+        out_(out),
         errors_(errors),
-        others_(options.ignored),
-        lines_(errors, input.name()),
-        job_(
-            input.stream(),
-            [this, &progress](const reader::Finding& finding) {
-              progress.clear();
-              lines_.tell(finding);
-            },
-            options.prologueBytes, [this](const reader::RecordStep& step) { addOther(step); }) {}
+        a_(a, options, progress, errors),
+        b_(b, options, progress, errors),
+        differences_(options.ignored, out, [&progress] { progress.clear(); }) {}
 
-  // Reads the next page; there is none in page() when there are no more.
-  void nextPage() {
-    page_ = job_.nextPage();
-    begun_ = true;
-    if (page_) {
-      bytesOfPages_ += lengthOf(RecordKind::kPage) + page_->compressedBytes +
-                       lengthOf(RecordKind::kBand) * page_->bandRecords.size() +
-                       page_->strayBytes.bytes();
+  // Answers the exit status.
+  int run() {
+    nextPages();
+    if (!a_.isJob() || !b_.isJob()) {
+      (void)areReadable();  // they are not: for its lines
+      return kUnusable;
     }
-  }
-  [[nodiscard]] const std::optional<reader::Page>& page() const { return page_; }
-  [[nodiscard]] const reader::JobReader& job() const { return job_; }
-  // Of the job, which has been read to its end, all that is not of its prologue or of a page.
-  [[nodiscard]] OtherBytes otherBytes() const {
-    return {job_.totals().bytes - job_.prologueBytes() - bytesOfPages_, job_.totals().pages,
-            others_.checksum()};
-  }
-  // False, with a line, when it is no job stream or could not be read on.
-  [[nodiscard]] bool isReadable() const {
-    return isJobStream(job_.walk(), job_.prologue(), name_, errors_);
+    differences_.prologues(a_.job(), b_.job());
+    differences_.frames(a_.job(), b_.job());
+    for (; a_.page() || b_.page(); nextPages()) {
+      progress_.update(a_.page() ? a_.page()->ordinal : b_.page()->ordinal,
+                       a_.job().walk().offset() + b_.job().walk().offset());
+      if (!a_.page() || !b_.page()) {
+        differences_.onlyIn(a_.page() ? "A" : "B", a_.page() ? *a_.page() : *b_.page());
+      } else if (!comparePages(*a_.page(), *b_.page())) {
+        return kUnusable;
+      }
+    }
+    differences_.otherBytes(a_.otherBytes(), b_.otherBytes());
+    const int status = differences_.found() ? kFaulty : kSound;
+    return areReadable() ? status : kUnusable;
   }
 
  private:
-  // The records that DifferenceLines::frames() compares stay out.
-  void addOther(const reader::RecordStep& step) {
-    bool& seen = std::holds_alternative<reader::JobRecord>(step.record) ? seenJob_ : seenHost_;
-    const bool isFrame = std::holds_alternative<reader::JobRecord>(step.record) ||
-                         std::holds_alternative<reader::HostRecord>(step.record);
-    if (!isFrame || std::exchange(seen, true) || begun_) {
-      others_.add(step, job_.totals().pages);
+  void nextPages() {
+    a_.nextPage();
+    b_.nextPage();
+  }
+
+  // False when one is no job or could not be read on; each has its line then.
+  [[nodiscard]] bool areReadable() const {
+    progress_.clear();
+    const bool readable = a_.isReadable();
+    return b_.isReadable() && readable;
+  }
+
+  // False, with a line, when the picture of their difference cannot be written. With pictures,
+  // comparing is half of the page's work.
+  bool comparePages(const reader::Page& a, const reader::Page& b) {
+    const std::uint64_t parts = options_.folder ? 2 : 1;
+    differences_.headers(a, b);
+    const PageDifference difference =
+        differenceOf(a, b, [this, parts](std::uint64_t done, std::uint64_t all) {
+          progress_.work(done, all * parts);
+        });
+    differences_.bands(a, b, difference);
+    const bool picture = options_.folder && difference.comparable && !difference.samePixels();
+    return !picture || writePictureOf(a, b);
+  }
+
+  // Two pages whose pixels differ; false, with a line, when it cannot be written.
+  bool writePictureOf(const reader::Page& a, const reader::Page& b) {
+    DifferencePainter painter(a, b, options_.reduction);
+    const std::filesystem::path path =
+        *options_.folder / ("page-" + std::to_string(a.ordinal) + "-diff.png");
+    std::ostringstream trouble;
+    const double samplesPerInch =
+        static_cast<double>(reader::pixelsPerInchOf(a)) / options_.reduction;
+    const auto tellRows = [this, height = std::uint64_t{painter.height()}](std::uint32_t rows) {
+      progress_.work(height + rows, height * 2);
+    };
+    const bool written = writePicture(painter, samplesPerInch, path, trouble, tellRows);
+    progress_.clear();
+    errors_ << trouble.str();
+    if (written) {
+      out_ << "page " << a.ordinal << ": " << nameInLine(path.string()) << '\n';
     }
+    return written;
   }
 
-  std::string name_;
+  const DiffOptions& options_;
+  Progress& progress_;
+  std::ostream& out_;
   std::ostream& errors_;
-  bool begun_ = false;  // the first page has come, if there is one
-  bool seenJob_ = false;
-  bool seenHost_ = false;
-  OtherSteps others_;
-  FindingLines lines_;
-  reader::JobReader job_;
-  std::optional<reader::Page> page_;
-  std::uint64_t bytesOfPages_ = 0;
+  ComparedJob a_;
+  ComparedJob b_;
+  DifferenceLines differences_;
 };
-
-// The picture of two pages whose pixels differ; false, with a line, when it cannot be written.
-bool writeDifference(const reader::Page& a, const reader::Page& b, const DiffOptions& options,
-                     Progress& progress, std::ostream& out, std::ostream& errors) {
-  DifferencePainter painter(a, b, options.reduction);
-  const std::filesystem::path path =
-      *options.folder / ("page-" + std::to_string(a.ordinal) + "-diff.png");
-  std::ostringstream trouble;
-  const double samplesPerInch = static_cast<double>(reader::pixelsPerInchOf(a)) / options.reduction;
-  const bool written =
-      writePicture(painter, samplesPerInch, path, trouble,
-                   [&](std::uint32_t rows) { progress.work(rows, painter.height()); });
-  progress.clear();
-  errors << trouble.str();
-  if (written) {
-    out << "page " << a.ordinal << ": " << nameInLine(path.string()) << '\n';
-  }
-  return written;
-}
 
 }  // namespace
 
@@ -124,44 +132,8 @@ int diffJobs(JobInput& a, JobInput& b, const DiffOptions& options, Progress& pro
   if (options.folder && !makeFolder(*options.folder, errors)) {
     return kUnusable;
   }
-  Side sideA(a, options, progress, errors);
-  Side sideB(b, options, progress, errors);
-  const auto nextPages = [&] {
-    sideA.nextPage();
-    sideB.nextPage();
-  };
-  const auto bothReadable = [&] {
-    progress.clear();
-    const bool readable = sideA.isReadable();
-    return sideB.isReadable() && readable;
-  };
-  nextPages();
-  if (!sideA.job().walk().foundRecord() || !sideB.job().walk().foundRecord()) {
-    (void)bothReadable();
-    return kUnusable;
-  }
-  DifferenceLines differences(options.ignored, out, [&progress] { progress.clear(); });
-  differences.prologues(sideA.job(), sideB.job());
-  differences.frames(sideA.job(), sideB.job());
-  for (; sideA.page() || sideB.page(); nextPages()) {
-    const std::optional<reader::Page>& pageA = sideA.page();
-    const std::optional<reader::Page>& pageB = sideB.page();
-    progress.update(pageA ? pageA->ordinal : pageB->ordinal, sideA.job().walk().offset());
-    if (!pageA || !pageB) {
-      differences.onlyIn(pageA ? "A" : "B", pageA ? *pageA : *pageB);
-      continue;
-    }
-    differences.headers(*pageA, *pageB);
-    const PageDifference difference = differenceOf(*pageA, *pageB);
-    differences.bands(*pageA, *pageB, difference);
-    const bool picture = options.folder && difference.comparable && !difference.samePixels();
-    if (picture && !writeDifference(*pageA, *pageB, options, progress, out, errors)) {
-      return statusAfterWriting(out, kUnusable, errors);
-    }
-  }
-  differences.otherBytes(sideA.otherBytes(), sideB.otherBytes());
-  const int status = differences.found() ? kFaulty : kSound;
-  return statusAfterWriting(out, bothReadable() ? status : kUnusable, errors);
+  JobComparison comparison(a, b, options, progress, out, errors);
+  return statusAfterWriting(out, comparison.run(), errors);
 }
 
 }  // namespace gdi::gdiview

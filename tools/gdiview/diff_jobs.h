@@ -27,7 +27,8 @@ struct DiffOptions {
 std::vector<std::string> fieldNames();
 
 // Writes a line a difference to `out`; what is wrong with a job goes to `errors`. Reads both page
-// by page. Answers kSound when nothing differs, kFaulty when something does, or kUnusable.
+// by page; progress is told of the bytes of both together. Answers kSound when nothing differs,
+// kFaulty when something does, or kUnusable.
 int diffJobs(JobInput& a, JobInput& b, const DiffOptions& options, Progress& progress,
              std::ostream& out, std::ostream& errors);
 

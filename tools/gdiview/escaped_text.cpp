@@ -13,9 +13,10 @@ namespace gdi::gdiview {
 
 namespace {
 
-// In UTF-8: where characters of two bytes begin, and the first of them behind C2 that is no
-// control.
+// The lowest byte with which a character beyond ASCII begins in UTF-8.
 constexpr std::uint8_t kFirstLeadByte = 0xC2;
+// C2 80 to C2 9F are the controls U+0080 to U+009F; from this second byte on, C2 begins what can be
+// printed.
 constexpr std::uint8_t kFirstPrintableBehindC2 = 0xA0;
 
 // Bytes of the character beyond ASCII that `text` begins with; 0 when it begins with another one, a

@@ -11,13 +11,14 @@ int infoJob(JobInput& input, const InfoOptions& options, Progress& progress, std
       options.json ? jsonReport(out, input.name()) : textReport(out);
   reader::JobWalk walk(
       input.stream(), [](const reader::Finding&) {}, options.prologueBytes);
-  reader::Prologue prologue;
+  JobStart start;
+  std::optional<reader::JobStep> held;  // the prologue, until what follows shows it to be one
   const auto wanted = [&options](std::uint32_t page) {
     return !options.page || *options.page == page;
   };
   bool shown = false;
   std::uint32_t page = 0;  // that is under way
-  while (const std::optional<reader::JobStep> job = walk.next()) {
+  while (std::optional<reader::JobStep> job = walk.next()) {
     progress.update(walk.totals().pages, walk.offset());
     if (job->endedPage && wanted(job->endedPage->ordinal)) {
       report->page(*job->endedPage);
@@ -26,12 +27,18 @@ int infoJob(JobInput& input, const InfoOptions& options, Progress& progress, std
         break;
       }
     }
-    if (const auto* start = std::get_if<reader::Prologue>(&job->step.record)) {
-      prologue = *start;
-      if (!walk.foundRecord()) {
-        continue;
-      }
+    if (const auto* prologue = std::get_if<reader::Prologue>(&job->step.record)) {
+      start = {*prologue, job->step.bytes};
+      held = std::move(job);
+      continue;
     }
+    if (!holdsJob(walk, start)) {
+      continue;
+    }
+    if (held && !options.summary && !options.page) {
+      report->record(*held);
+    }
+    held.reset();
     // What is no record belongs to the page inside which it stands.
     if (job->endedPage || job->page != 0) {
       page = job->page;
@@ -41,8 +48,8 @@ int infoJob(JobInput& input, const InfoOptions& options, Progress& progress, std
     }
   }
   progress.clear();
-  const bool readable = isJobStream(walk, prologue, input.name(), errors);
-  if (!walk.foundRecord()) {
+  const bool readable = isJobStream(walk, start, input.name(), errors);
+  if (!holdsJob(walk, start)) {
     return statusAfterWriting(out, kUnusable, errors);
   }
   if (!options.page) {

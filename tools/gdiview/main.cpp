@@ -3,8 +3,10 @@
 
 // gdiview as a program: its command line, then the command.
 
+#include <cstdint>
 #include <exception>
 #include <iostream>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -28,10 +30,14 @@ int run(CommandLine line) {
   if (!job.isOpen(std::cerr)) {
     return kUnusable;
   }
+  std::optional<JobInput> otherJob;
+  if (line.command == Command::kDiff && !otherJob.emplace(line.otherJob).isOpen(std::cerr)) {
+    return kUnusable;
+  }
   // What info prints would run into the progress line of the same terminal.
   const bool terminal =
       isatty(STDERR_FILENO) != 0 && (line.command != Command::kInfo || isatty(STDOUT_FILENO) == 0);
-  Progress progress(std::cerr, terminal, job.size());
+  Progress progress(std::cerr, terminal, otherJob ? sizeOfBoth(job, *otherJob) : job.size());
   switch (line.command) {
     case Command::kInfo:
       return infoJob(job, line.info, progress, std::cout, std::cerr);
@@ -42,11 +48,7 @@ int run(CommandLine line) {
     case Command::kDiff:
       break;
   }
-  JobInput otherJob(line.otherJob);
-  if (!otherJob.isOpen(std::cerr)) {
-    return kUnusable;
-  }
-  return diffJobs(job, otherJob, line.diff, progress, std::cout, std::cerr);
+  return diffJobs(job, *otherJob, line.diff, progress, std::cout, std::cerr);
 }
 
 }  // namespace

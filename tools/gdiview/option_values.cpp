@@ -47,6 +47,10 @@ std::vector<std::string> namesIn(std::string_view text) {
   return names;
 }
 
+std::string faultOfJob(const std::string& text) {
+  return text.empty() ? "it must name a file, or be -" : "";
+}
+
 std::string faultOfPage(const std::string& text) {
   return numberOf(text) ? "" : "it must be a page's number, from 1 up";
 }
@@ -64,8 +68,12 @@ std::string faultOfTurned(const std::string& text) {
 }
 
 std::string faultOfIgnored(const std::string& text) {
+  const std::vector<std::string> names = namesIn(text);
+  if (names.empty()) {
+    return "it must name a field";
+  }
   const std::vector<std::string> known = fieldNames();
-  for (const std::string& name : namesIn(text)) {
+  for (const std::string& name : names) {
     if (std::ranges::find(known, name) == known.end()) {
       return "there is no field " + name;
     }

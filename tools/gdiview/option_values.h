@@ -24,6 +24,7 @@ std::optional<Turned> turnedOf(std::string_view text);
 std::vector<std::string> namesIn(std::string_view text);
 
 // Each answers what is wrong with the word, in one line, or nothing.
+std::string faultOfJob(const std::string& text);
 std::string faultOfPage(const std::string& text);
 std::string faultOfScale(const std::string& text);
 std::string faultOfFolder(const std::string& text);

@@ -7,6 +7,7 @@
 #include <bit>
 #include <cstddef>
 #include <span>
+#include <utility>
 #include <vector>
 
 namespace gdi::gdiview {
@@ -35,14 +36,16 @@ std::uint8_t pixelMask(std::size_t i, std::size_t pixelBits) {
 
 class PlaneComparison {
  public:
+  // compared: called with the plane's rows that have been compared so far.
   PlaneComparison(const reader::StoredPlane& a, const reader::StoredPlane& b, unsigned bitsPerPixel,
-                  std::uint32_t width)
+                  std::uint32_t width, std::function<void(std::uint32_t)> compared)
       : a_(a),
         b_(b),
         rowsOfA_(a),
         rowsOfB_(b),
         bitsPerPixel_(bitsPerPixel),
-        pixelBits_(std::size_t{width} * bitsPerPixel) {}
+        pixelBits_(std::size_t{width} * bitsPerPixel),
+        compared_(std::move(compared)) {}
 
   PlaneDifference run() {
     const std::size_t bands = std::max(a_.bands().size(), b_.bands().size());
@@ -78,10 +81,12 @@ class PlaneComparison {
     if (sameBytes && a.firstRow == b.firstRow && a.rows == b.rows &&
         a_.rowBytes() == b_.rowBytes()) {
       y_ = std::max(y_, end);
+      compared_(y_);
       return;
     }
-    for (; y_ < end; ++y_) {
+    while (y_ < end) {
       compareRow();
+      compared_(++y_);
     }
     const bool oneLacksThePlane = a_.bands().empty() || b_.bands().empty();
     if (anyDifferent(rowsOfA) || anyDifferent(rowsOfB)) {
@@ -138,6 +143,7 @@ class PlaneComparison {
   reader::PlaneRows rowsOfB_;
   unsigned bitsPerPixel_;
   std::size_t pixelBits_;
+  std::function<void(std::uint32_t)> compared_;
   std::uint32_t y_ = 0;                       // the next row to compare
   std::vector<std::uint32_t> differentRows_;  // from top to bottom
   PlaneDifference difference_;
@@ -150,16 +156,31 @@ bool PageDifference::samePixels() const {
                                    [](const PlaneDifference& plane) { return plane.pixels == 0; });
 }
 
-PageDifference differenceOf(const reader::Page& a, const reader::Page& b) {
+PageDifference differenceOf(const reader::Page& a, const reader::Page& b,
+                            const RowsCompared& compared) {
   PageDifference difference;
   difference.comparable = a.bitsPerPixel == b.bitsPerPixel;
   if (!difference.comparable) {
     return difference;
   }
   const std::uint32_t width = std::max(a.widthPixels(), b.widthPixels());
+  const auto rowsOf = [&](reader::Ink ink) {
+    return std::uint64_t{std::max(a.plane(ink).rows(), b.plane(ink).rows())};
+  };
+  std::uint64_t all = 0;
   for (const reader::Ink ink : reader::kInks) {
+    all += rowsOf(ink);
+  }
+  std::uint64_t done = 0;  // in the planes before
+  for (const reader::Ink ink : reader::kInks) {
+    const auto tell = [&](std::uint32_t rows) {
+      if (all > 0) {
+        compared(done + rows, all);
+      }
+    };
     difference.planes[reader::indexOf(ink)] =
-        PlaneComparison(a.plane(ink), b.plane(ink), a.bitsPerPixel, width).run();
+        PlaneComparison(a.plane(ink), b.plane(ink), a.bitsPerPixel, width, tell).run();
+    done += rowsOf(ink);
   }
   return difference;
 }

@@ -12,6 +12,7 @@
 
 #include <array>
 #include <cstdint>
+#include <functional>
 #include <optional>
 
 #include "reader/Page.h"
@@ -60,7 +61,12 @@ struct PageDifference {
   [[nodiscard]] bool samePixels() const;
 };
 
+// Takes how many of the planes' rows have been compared so far, and how many there are in all, > 0.
+using RowsCompared = std::function<void(std::uint64_t done, std::uint64_t all)>;
+
 // Holds one decoded band of each page at a time, and decodes no band that is the same in both.
-PageDifference differenceOf(const reader::Page& a, const reader::Page& b);
+// compared: called behind each row, or behind each band of rows that need no look.
+PageDifference differenceOf(const reader::Page& a, const reader::Page& b,
+                            const RowsCompared& compared);
 
 }  // namespace gdi::gdiview

@@ -52,7 +52,8 @@ bool writePicture(Picture& picture, double samplesPerInch, const std::filesystem
   if (file != nullptr && writeRows(picture, *file, written)) {
     return true;
   }
-  errors << "gdiview: " << nameInLine(path.string()) << ": "
+  const std::filesystem::path failed = file == nullptr ? PngFile::partPathOf(path) : path;
+  errors << "gdiview: " << nameInLine(failed.string()) << ": "
          << std::generic_category().message(errno == 0 ? EIO : errno) << '\n';
   return false;
 }

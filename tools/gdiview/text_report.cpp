@@ -6,7 +6,6 @@
 #include <array>
 #include <cstdio>
 
-#include "printer/format/big_endian.h"
 #include "reader/counted.h"
 #include "tools/gdiview/info_job.h"
 #include "tools/gdiview/record_fields.h"
@@ -112,11 +111,8 @@ void TextReport::operator()(const reader::Band& band) {
   out_ << (step_->place ? step_->place->name() : "no plane") << ':';
   for (const Field& field : fieldsOf(reader::RecordKind::kBand, step_->step.header)) {
     const bool unusedSlot = field.unit == "bytes" && field.value == Field{}.value;
-    if (!unusedSlot && field.name != "row_bits") {
-      out_ << ' ' << field.name << ' ' << valueText(field)
-           << (field.name == "flags" ? inParentheses(field.meaning) : "") << ',';
-    } else if (!unusedSlot) {
-      out_ << " row_bits " << valueText(field) << ',';
+    if (!unusedSlot) {
+      out_ << ' ' << field.name << ' ' << valueText(field) << inParentheses(field.meaning) << ',';
     }
   }
   out_ << ' ' << share(band.data.size(), std::uint64_t{band.record.rows} * step_->rowBytes)
