@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: Apache-2.0
 
 // The walk through a whole job: each record in its place, held against the format as it comes.
-// Occupies the memory of one record or, where a band's length lies, of what is searched for its end:
-// at most a few times the longest band, whatever the stream's length.
+// Occupies the memory of one record or, where a band's length lies, of what is searched for its
+// end: at most a few times the longest band, whatever the stream's length.
 #pragma once
 
 #include <cstdint>
