@@ -41,10 +41,8 @@ BandBytes BandDataReader::read(const BandRecord& record, std::optional<Ink> ink)
   if (whole && (standsAtRecord() || length == 0)) {
     return band;
   }
-  const bool maySearch = searches_ < kMostSearches;
-  searches_ += maySearch ? 1 : 0;
   const bool found =
-      maySearch && (cutToNextRecord(band, length) || (whole && growToNextRecord(band, record)));
+      takeSearch() && (cutToNextRecord(band, length) || (whole && growToNextRecord(band, record)));
   band.brokenOff = !found && !whole;
   return band;
 }

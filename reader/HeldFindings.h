@@ -45,7 +45,6 @@ class HeldFindings {
 
   // Added so far.
   [[nodiscard]] std::uint64_t count() const { return count_; }
-  [[nodiscard]] bool released() const { return released_; }
 
  private:
   static constexpr std::size_t kMostHeld = 1024;

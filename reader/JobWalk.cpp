@@ -48,63 +48,70 @@ std::optional<JobStep> JobWalk::next() {
   }
   JobStep job;
   job.step = std::move(*step);
-  if (const auto* swallowing = std::get_if<Band>(&job.step.record);
-      swallowing != nullptr && page_) {
-    if (const auto bytes = swallowedRecord(*swallowing, page_->summary().rowBits)) {
+  const auto* band = std::get_if<Band>(&job.step.record);
+  if (band != nullptr && page_) {
+    if (const auto bytes = swallowedRecord(*band, page_->summary().rowBits)) {
       records_.cutBand(job.step, *bytes);
     }
   }
   totals_.bytes = job.step.offset + job.step.bytes;
+  totals_.compressedBytes += band != nullptr ? band->data.size() : 0;
   if (page_ && endsPage(job.step)) {
     endPage(job);
   }
-  const auto* band = std::get_if<Band>(&job.step.record);
   if (missesPageRecord(job) && page_) {
     endPage(job);
   }
-  totals_.compressedBytes += band != nullptr ? band->data.size() : 0;
   if (band != nullptr && page_) {
-    const BandVerdict verdict = page_->addBand(*band, job.step.offset, job.step.flaws);
-    job.page = totals_.pages;
-    job.place = verdict.place;
-    job.sound = verdict.sound;
-    job.rowBytes = page_->summary().rowBits / 8;
-    return job;
-  }
-  if (const auto* page = std::get_if<PageRecord>(&job.step.record)) {
+    addBand(*band, job);
+  } else if (const auto* page = std::get_if<PageRecord>(&job.step.record)) {
     startPage(*page, job);
-    return job;
-  }
-  tellFlaws(job, nameOf(job.step));
-  if (std::holds_alternative<EndOfJob>(job.step.record)) {
-    if (std::exchange(pagesOfJob_, 0) == 0 && job.step.flaws.empty()) {
-      tell({job.step.offset, Rule::kNoPages, nameOf(job.step), "the job has no page"});
-    }
-  }
-  if (const auto* record = std::get_if<JobRecord>(&job.step.record)) {
-    bitsPerPixel_.reset();
-    if (isBitsPerPixel(record->bitsPerPixel)) {
-      bitsPerPixel_ = record->bitsPerPixel;
-    }
-    pagesOfJob_ = 0;
-    nextNumber_ = 0;
-    numberUnknown_ = false;
-    numberBehindWrongOne_.reset();
-    if (totals_.job.empty()) {
-      totals_.job = job.step.header;
-    }
-  } else if (std::holds_alternative<HostRecord>(job.step.record) && totals_.host.empty()) {
-    totals_.host = job.step.header;
-  } else if (std::holds_alternative<Gap>(job.step.record) && page_ && !job.step.flaws.empty()) {
-    page_->addGap(job.step.bytes);
+  } else {
+    takeOther(job.step);
   }
   return job;
+}
+
+void JobWalk::addBand(const Band& band, JobStep& job) {
+  const BandVerdict verdict = page_->addBand(band, job.step.offset, job.step.flaws);
+  job.page = totals_.pages;
+  job.place = verdict.place;
+  job.sound = verdict.sound;
+  job.rowBytes = page_->summary().rowBits / 8;
+}
+
+void JobWalk::takeOther(const RecordStep& step) {
+  tellFlaws(step, nameOf(step));
+  if (const auto* record = std::get_if<JobRecord>(&step.record)) {
+    startJob(*record);
+    if (totals_.job.empty()) {
+      totals_.job = step.header;
+    }
+  } else if (std::holds_alternative<HostRecord>(step.record) && totals_.host.empty()) {
+    totals_.host = step.header;
+  } else if (std::holds_alternative<Gap>(step.record) && page_ && !step.flaws.empty()) {
+    page_->addGap(step.bytes);
+  } else if (std::holds_alternative<EndOfJob>(step.record) && std::exchange(pagesOfJob_, 0) == 0 &&
+             step.flaws.empty()) {
+    tell({step.offset, Rule::kNoPages, nameOf(step), "the job has no page"});
+  }
+}
+
+void JobWalk::startJob(const JobRecord& record) {
+  bitsPerPixel_.reset();
+  if (isBitsPerPixel(record.bitsPerPixel)) {
+    bitsPerPixel_ = record.bitsPerPixel;
+  }
+  pagesOfJob_ = 0;
+  nextNumber_ = 0;
+  numberUnknown_ = false;
+  numberBehindWrongOne_.reset();
 }
 
 // What comes ahead of the first page or behind a page's last band, and is no record of the job, is
 // of a page whose record is damaged or missing.
 bool JobWalk::missesPageRecord(JobStep& job) {
-  const bool damaged = std::holds_alternative<Gap>(job.step.record) &&
+  const bool damaged = std::holds_alternative<Gap>(job.step.record) && !job.step.flaws.empty() &&
                        (!page_ || page_->closed()) && job.step.bytes >= page_record::kLength;
   const bool missing =
       std::holds_alternative<Band>(job.step.record) && (!page_ || page_->complete());
@@ -131,7 +138,7 @@ void JobWalk::endPage(JobStep& job) {
 void JobWalk::startPage(const PageRecord& record, JobStep& job) {
   job.page = ++totals_.pages;
   ++pagesOfJob_;
-  tellFlaws(job, ("page " + std::to_string(job.page)).c_str());
+  tellFlaws(job.step, ("page " + std::to_string(job.page)).c_str());
   checkNumber(record, job.step.offset);
   page_.emplace(record, job.page, job.step.offset, bitsPerPixel_,
                 [this](const Finding& finding) { tell(finding); });
@@ -165,9 +172,9 @@ void JobWalk::checkFiller(const PageSummary& page, bool last) {
   }
 }
 
-void JobWalk::tellFlaws(const JobStep& job, const char* record) {
-  for (const Flaw& flaw : job.step.flaws) {
-    tell({job.step.offset + flaw.offset, flaw.rule, record, flaw.text});
+void JobWalk::tellFlaws(const RecordStep& step, const char* record) {
+  for (const Flaw& flaw : step.flaws) {
+    tell({step.offset + flaw.offset, flaw.rule, record, flaw.text});
   }
 }
 

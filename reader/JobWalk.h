@@ -55,12 +55,15 @@ class JobWalk {
 
  private:
   bool missesPageRecord(JobStep& job);
+  void addBand(const Band& band, JobStep& job);
+  void takeOther(const RecordStep& step);
+  void startJob(const JobRecord& record);
   void endPage(JobStep& job);
   void startPage(const PageRecord& record, JobStep& job);
   void checkNumber(const PageRecord& record, std::uint64_t offset);
   // The page that left a number out is over: `last` says whether it is the job's last one.
   void checkFiller(const PageSummary& page, bool last);
-  void tellFlaws(const JobStep& job, const char* record);
+  void tellFlaws(const RecordStep& step, const char* record);
   void tell(const Finding& finding);
 
   RecordReader records_;

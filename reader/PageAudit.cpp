@@ -105,7 +105,6 @@ BandPlace PageAudit::placeOf(Ink ink, const Band& band) {
 // Whatever it is, it may be the band that some plane lacks.
 void PageAudit::addMisplacedBand(const Band& band, std::optional<Ink> ink) {
   if (ink) {
-    ++foreignBands_[indexOf(*ink)];
     otherPlanes_.add({bandOffset_ + lengthOffsetOf(*ink), Rule::kBandPlane, recordName_,
                       std::string("a ") + nameOf(*ink) + " band on a page of black alone"});
     end_.lastFlagged = end_.lastFlagged || band.record.last();

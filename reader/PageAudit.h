@@ -78,8 +78,7 @@ class PageAudit {
   LastBandFlag lastFlag_;
   HeldFindings otherRowBits_;  // bands that all say the same other number of bits a row
   std::uint16_t otherRowBitsTold_ = 0;
-  HeldFindings otherPlanes_;   // bands of planes that the page does not have
-  BandCounts foreignBands_{};  // of these planes
+  HeldFindings otherPlanes_;  // bands of planes that the page does not have
   // Of each plane the band of less than kBandHeight rows that came last.
   struct ShortBand {
     std::uint64_t offset = 0;

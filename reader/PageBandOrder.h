@@ -28,11 +28,10 @@ class PageBandOrder {
   void take(BandPlace band, std::uint64_t offset, const std::string& record);
   // So many bands may have come that were not understood, which was told.
   void pardon(std::uint64_t bands) { pardoned_ += bands; }
-  // The page is over. Nothing is said of bands that are in order for other rows than told: they
-  // lack rows or have too many, and that is told.
+  // The page is over, and its rows are known: nothing is told without this call. Nothing is said of
+  // bands that are in order for other rows than told: they lack rows or have too many, and that is
+  // told.
   void finish();
-  // Nothing can be said of the order.
-  void drop() { found_.drop(); }
 
  private:
   BandOrder order_;
