@@ -7,15 +7,11 @@
 #include <cstdint>
 #include <vector>
 
+#include "tools/printmodel/Tile.h"
+
 namespace gdi::makescreens {
 
-// One repeat of a screen, in pixels.
-struct Tile {
-  int width = 1;
-  int height = 1;
-  [[nodiscard]] int pixels() const { return width * height; }
-  bool operator==(const Tile&) const = default;
-};
+using printmodel::Tile;
 
 // At the point (x, y), in pixels, the coordinates counted in cells are
 // U = (a x + b y) / n + phaseU / 1000 and V = (c x + d y) / n + phaseV / 1000.

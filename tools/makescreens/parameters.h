@@ -10,11 +10,13 @@
 #include <string_view>
 #include <vector>
 
-#include "tools/makescreens/PrintModel.h"
 #include "tools/makescreens/growth.h"
 #include "tools/makescreens/lattice.h"
+#include "tools/printmodel/PaperModel.h"
 
 namespace gdi::makescreens {
+
+using printmodel::PaperModel;
 
 // The four planes of a colour page and the one of a mono page.
 constexpr std::array<std::string_view, 5> kPlanes = {"cyan", "magenta", "yellow", "black", "mono"};

@@ -9,9 +9,12 @@
 
 #include "tools/makescreens/screen_file.h"
 #include "tools/makescreens/tone.h"
+#include "tools/printmodel/PrintModel.h"
 
 namespace gdi::makescreens {
 namespace {
+
+using printmodel::PrintModel;
 
 constexpr std::size_t kMono = 4;
 using FourPlanes = std::array<std::size_t, 4>;

@@ -1,14 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The rasterToGDI authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "tools/makescreens/PrintModel.h"
+#include "tools/printmodel/PrintModel.h"
 
 #include <cstdint>
 #include <vector>
 
 #include <gtest/gtest.h>
 
-namespace gdi::makescreens {
+namespace gdi::printmodel {
 namespace {
 
 constexpr Tile kTile{8, 8};
@@ -80,4 +80,4 @@ TEST(PrintModel, ATileWrapsAtItsBorders) {
 }
 
 }  // namespace
-}  // namespace gdi::makescreens
+}  // namespace gdi::printmodel
