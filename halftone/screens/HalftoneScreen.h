@@ -40,6 +40,10 @@ class HalftoneScreen {
   bool processScanline(const std::uint8_t* input, int width, int inputStride, int row,
                        std::uint8_t* outputBuffer, int outputDepth) const;
 
+  [[nodiscard]] const ScreenHeader& header() const { return header_; }
+  // The table, one entry a byte, in the order row, column, level.
+  [[nodiscard]] std::span<const std::uint8_t> table() const { return unpackedData_; }
+
  private:
   HalftoneScreen(const ScreenHeader& header, std::span<const std::uint8_t> table);
   template <int depth>

@@ -32,6 +32,9 @@ class Halftoner {
   // Files loaded; four at most, fewer when planes share a screen.
   [[nodiscard]] std::size_t screensLoaded() const { return screenCache_.size(); }
 
+  // The screens of cyan, magenta, yellow and black; they belong to the halftoner.
+  [[nodiscard]] std::span<const HalftoneScreen* const> screens() const { return screenList_; }
+
   // Screens one scanline into one row of each plane.
   //   input           `width` pixels (at least 1) of outputChannels bytes, channels interleaved
   //   row             the page's scanline number, from 0
