@@ -10,8 +10,6 @@
 #include <limits>
 #include <span>
 
-#include "tools/makescreens/spot.h"
-
 namespace gdi::makescreens {
 namespace {
 
@@ -191,17 +189,18 @@ std::vector<std::uint32_t> growthOrder(const Lattice& lattice, const Tile& tile,
   const auto unitsPerPixel = static_cast<std::uint32_t>(steps);
   const std::size_t units = pixels * unitsPerPixel;
   const std::vector<std::int64_t> kernel =
-      crowdingKernel(tile, std::sqrt(lattice.cellArea()), rule.evenness / steps);
+      crowdingKernel(tile, rule.crowding * std::sqrt(lattice.cellArea()), rule.evenness / steps);
   const Grower grower(tile, kernel, start);
 
-  const Direction dots{spotShares(lattice, tile, steps, softEdge),
-                       spotShares(lattice, tile, 1, 0.0),
+  const Direction dots{spotShares(lattice, tile, steps, softEdge, rule.dots),
+                       spotShares(lattice, tile, 1, 0.0, rule.dots),
                        std::vector<std::uint32_t>(pixels, unitsPerPixel),
                        cellNumbers(lattice, tile, CellsAround::kDots),
                        static_cast<std::uint32_t>(rule.leastDot) * unitsPerPixel};
   std::vector<std::uint32_t> order = grower.grow(dots, steps, units / 2);
 
-  Direction holes{dots.shares, dots.means, dots.limits,
+  Direction holes{spotShares(lattice, tile, steps, softEdge, rule.holes),
+                  spotShares(lattice, tile, 1, 0.0, rule.holes), dots.limits,
                   cellNumbers(lattice, tile, CellsAround::kHoles),
                   static_cast<std::uint32_t>(rule.leastHole) * unitsPerPixel};
   for (const std::uint32_t pixel : order) {

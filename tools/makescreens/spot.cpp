@@ -15,7 +15,14 @@ namespace {
 constexpr int kPointsAcross = 8;
 constexpr std::size_t kPoints = std::size_t{kPointsAcross} * kPointsAcross;
 
-// cos(2 pi turn / scale) in 2^-40. Angles that mirror each other give the same number, so that
+constexpr int kFractionBits = 30;
+constexpr std::int64_t kOne = std::int64_t{1} << kFractionBits;
+
+std::int64_t thousandths(double value) {
+  return std::lround(value * 1000.0);
+}
+
+// cos(2 pi turn / scale) in 2^-30. Angles that mirror each other give the same number, so that
 // pixels alike by symmetry stay exactly alike. Requires: scale divisible by 4.
 std::int64_t cosineOfTurn(std::int64_t turn, std::int64_t scale) {
   std::int64_t angle = turn % scale;
@@ -25,13 +32,18 @@ std::int64_t cosineOfTurn(std::int64_t turn, std::int64_t scale) {
   angle = negative ? scale / 2 - angle : angle;
   const double radians =
       2.0 * std::numbers::pi * static_cast<double>(angle) / static_cast<double>(scale);
-  const auto cosine = static_cast<std::int64_t>(std::llround(std::ldexp(std::cos(radians), 40)));
+  const auto cosine =
+      static_cast<std::int64_t>(std::llround(std::ldexp(std::cos(radians), kFractionBits)));
   return negative ? -cosine : cosine;
 }
 
 // The spot function at the 8 x 8 points of each pixel: high inside dots, low inside holes.
-std::vector<std::int64_t> spotValues(const Lattice& lattice, const Tile& tile) {
+std::vector<std::int64_t> spotValues(const Lattice& lattice, const Tile& tile,
+                                     const SpotShape& shape) {
   const std::int64_t scale = cellScale(lattice);
+  const std::int64_t ellipse = thousandths(shape.ellipse);
+  const std::int64_t roundness = thousandths(shape.roundness);
+  const std::int64_t pairs = thousandths(shape.pairs);
   std::vector<std::int64_t> values;
   values.reserve(static_cast<std::size_t>(tile.pixels()) * kPoints);
   for (int y = 0; y < tile.height; ++y) {
@@ -39,7 +51,10 @@ std::vector<std::int64_t> spotValues(const Lattice& lattice, const Tile& tile) {
       for (int point = 0; point < kPointsAcross * kPointsAcross; ++point) {
         const CellPoint at = cellPoint(lattice, 16 * x + 2 * (point % kPointsAcross) + 1,
                                        16 * y + 2 * (point / kPointsAcross) + 1);
-        values.push_back(cosineOfTurn(at.u, scale) + cosineOfTurn(at.v, scale));
+        const std::int64_t u = cosineOfTurn(at.u, scale);
+        const std::int64_t v = cosineOfTurn(at.v, scale);
+        const std::int64_t pair = cosineOfTurn(at.u + at.v, 2 * scale);
+        values.push_back(1000 * u + ellipse * v + roundness * (u * v / kOne) + pairs * pair);
       }
     }
   }
@@ -49,8 +64,8 @@ std::vector<std::int64_t> spotValues(const Lattice& lattice, const Tile& tile) {
 }  // namespace
 
 std::vector<std::int64_t> spotShares(const Lattice& lattice, const Tile& tile, int steps,
-                                     double softEdge) {
-  const std::vector<std::int64_t> values = spotValues(lattice, tile);
+                                     double softEdge, const SpotShape& shape) {
+  const std::vector<std::int64_t> values = spotValues(lattice, tile, shape);
   std::vector<std::int64_t> sorted = values;
   std::sort(sorted.begin(), sorted.end());
   // The share of points higher than this one; points alike take the middle of their places.

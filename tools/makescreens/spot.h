@@ -14,6 +14,14 @@ namespace gdi::makescreens {
 // Shares of a cell are counted in 1 / kWholeCell.
 constexpr std::int64_t kWholeCell = std::int64_t{1} << 24;
 
+// The shape of the spot function cos U + ellipse cos V + roundness cos U cos V + pairs
+// cos((U+V)/2), angles in turns of a cell: high inside dots, low inside holes.
+struct SpotShape {
+  double ellipse = 1.0;    // below 1 dots join to chains along V before the chains join
+  double roundness = 0.0;  // above 0 dots join later and holes part earlier
+  double pairs = 0.0;      // how much every second dot, and hole, is larger than its neighbours
+};
+
 // For each pixel of the tile, row by row, `steps` shares, never falling: how much of its cell is
 // darkened when the pixel takes its first, second, ... unit of output.
 //
@@ -21,6 +29,6 @@ constexpr std::int64_t kWholeCell = std::int64_t{1} << 24;
 // of 8 x 8 points in it: 0 lets its units come together, 1 spreads them as the dot's edge sweeps
 // over the pixel. Requires: steps >= 1.
 std::vector<std::int64_t> spotShares(const Lattice& lattice, const Tile& tile, int steps,
-                                     double softEdge);
+                                     double softEdge, const SpotShape& shape);
 
 }  // namespace gdi::makescreens
