@@ -15,7 +15,7 @@ namespace gdi::screenquality {
 
 using printmodel::Tile;
 
-// Transforms of fields of one size, taken to repeat. One thread.
+// Transforms of fields of one size, taken to repeat. One thread an object.
 class Spectrum {
  public:
   explicit Spectrum(const Tile& field);
