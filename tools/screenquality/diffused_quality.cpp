@@ -56,27 +56,25 @@ std::vector<double> lightOf(const Tile& field, const printmodel::Exposure& expos
           field, printmodel::transmissionOf(engine.coverage(field, exposure, swing), paper.solid));
 }
 
-// Mean tones of a diffused tint.
+// Mean tones of a diffused tint on one paper.
 class MeanTones {
  public:
-  MeanTones(const Values& tint, int steps)
-      : values_(middleOf<std::uint8_t>(tint, kSide, kField.width)), steps_(steps) {}
+  MeanTones(const Values& tint, int steps, const PaperModel& paper)
+      : paper_(paper),
+        engine_(paper, steps),
+        exposure_(engine_.exposure(kField, middleOf<std::uint8_t>(tint, kSide, kField.width))) {}
 
-  [[nodiscard]] double reflectance(const PaperModel& paper, double swing = 1.0) const {
-    const printmodel::LaserEngine engine(paper, steps_);
-    const std::vector<double> light =
-        lightOf(kField, engine.exposure(kField, values_), engine, paper, swing);
-    return meanOf(middleOf<double>(light, kField.width, kMiddle));
+  [[nodiscard]] double reflectance(double swing = 1.0) const {
+    return meanOf(middleOf<double>(lightOf(kField, exposure_, engine_, paper_, swing), kField.width,
+                                   kMiddle));
   }
-  [[nodiscard]] double sensitivity(const PaperModel& paper) const {
-    const printmodel::LaserEngine engine(paper, steps_);
-    return engine.sensitivity(engine.exposure(kField, values_));
-  }
+  [[nodiscard]] double sensitivity() const { return engine_.sensitivity(exposure_); }
 
  private:
   static constexpr Tile kField{kMiddle + 2 * kReach, kMiddle + 2 * kReach};
-  Values values_;
-  int steps_;
+  PaperModel paper_;
+  printmodel::LaserEngine engine_;
+  printmodel::Exposure exposure_;
 };
 
 PaperModel paperIn(const StrayedPrinter& printer, PaperModel paper) {
@@ -94,8 +92,8 @@ class DiffusedTints {
     std::size_t judged = 0;
     for (std::size_t level = 0; level < 256; ++level) {
       const Values tint = tintOf(level);
-      const MeanTones tones(tint, steps_);
-      reflectances_.push_back(tones.reflectance(paper_));
+      const MeanTones tones(tint, steps_, paper_);
+      reflectances_.push_back(tones.reflectance());
       lightnesses_.push_back(lightness(reflectances_.back()));
       if (judged < kJudgedLevels.size() && kJudgedLevels.at(judged) == level) {
         judge(tint, tones);
@@ -115,12 +113,16 @@ class DiffusedTints {
     const double slope = lightnessSlope(reflectances_.back());
     judgedLightnesses_.push_back(lightnesses_.back());
     addPattern(tint);
-    noises_.push_back(slope * tones.sensitivity(paper_) * kNoiseGain * noise_);
-    swings_.push_back((lightness(tones.reflectance(paper_, 1.0 - kSwing)) -
-                       lightness(tones.reflectance(paper_, 1.0 + kSwing))) /
-                      2.0);
+    noises_.push_back(slope * tones.sensitivity() * kNoiseGain * noise_);
+    swings_.push_back(
+        (lightness(tones.reflectance(1.0 - kSwing)) - lightness(tones.reflectance(1.0 + kSwing))) /
+        2.0);
     for (std::size_t i = 0; i < kPrinters.size(); ++i) {
-      printed_.at(i).push_back(lightness(tones.reflectance(paperIn(kPrinters.at(i), paper_))));
+      const StrayedPrinter& printer = kPrinters.at(i);
+      const bool nominal = printer.spot == 0.0 && printer.threshold == 0.0;
+      printed_.at(i).push_back(
+          nominal ? lightnesses_.back()
+                  : lightness(MeanTones(tint, steps_, paperIn(printer, paper_)).reflectance()));
     }
   }
 
