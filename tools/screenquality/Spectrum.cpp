@@ -53,6 +53,17 @@ void Spectrum::transform(std::span<const double> field) {
 
 double Spectrum::varianceSeen(std::span<const double> field, std::span<const double> shares) {
   transform(field);
+  return varianceOfWaves(shares);
+}
+
+std::array<double, 2> Spectrum::variancesSeen(std::span<const double> field,
+                                              std::span<const double> shares,
+                                              std::span<const double> otherShares) {
+  transform(field);
+  return {varianceOfWaves(shares), varianceOfWaves(otherShares)};
+}
+
+double Spectrum::varianceOfWaves(std::span<const double> shares) const {
   const auto columns = static_cast<std::size_t>(field_.width / 2 + 1);
   double sum = 0.0;
   for (std::size_t i = 1; i < waves_.size(); ++i) {

@@ -42,7 +42,12 @@ std::variant<CommandLine, int> readCommandLine(std::vector<std::string> words, s
     std::ranges::reverse(words);
     app.parse(std::move(words));
   } catch (const CLI::Success& success) {
-    return app.exit(success, out, errors);
+    const int status = app.exit(success, out, errors);
+    if (!out.flush()) {
+      errors << "screenquality: the help cannot be written\n";
+      return kUnusable;
+    }
+    return status;
   } catch (const CLI::ParseError& error) {
     std::string fault = error.what();
     std::ranges::replace(fault, '\n', ' ');

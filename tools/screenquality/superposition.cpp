@@ -176,8 +176,11 @@ Superposition superpositionOf(const PrintedPlanes& planes, const Conditions& con
               window[i] * (slope[0] * (light[0][i] - mean[0]) + slope[1] * (light[1][i] - mean[1]) +
                            slope[2] * (light[2][i] - mean[2]));
         }
-        patternSquares += spectrum.varianceSeen(error, lab == 0 ? lightnessShare : chromaShare);
-        coarseSquares += spectrum.varianceSeen(error, lab == 0 ? coarseLightness : coarseChroma);
+        const auto [pattern, coarse] =
+            lab == 0 ? spectrum.variancesSeen(error, lightnessShare, coarseLightness)
+                     : spectrum.variancesSeen(error, chromaShare, coarseChroma);
+        patternSquares += pattern;
+        coarseSquares += coarse;
       }
     }
     for (std::size_t lab = 0; lab < 3; ++lab) {
