@@ -5,10 +5,20 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <mutex>
 
 #include <fftw3.h>
 
 namespace gdi::screenquality {
+namespace {
+
+// The library's plans are made and destroyed by one thread at a time.
+std::mutex& planning() {
+  static std::mutex mutex;
+  return mutex;
+}
+
+}  // namespace
 
 struct Spectrum::Plans {
   fftw_plan forward = nullptr;
@@ -21,6 +31,7 @@ Spectrum::Spectrum(const Tile& field)
       waves_(static_cast<std::size_t>(field.width / 2 + 1) *
              static_cast<std::size_t>(field.height)),
       plans_(std::make_unique<Plans>()) {
+  const std::lock_guard alone(planning());
   // The library's complex number is laid out as the language's.
   auto* waves = reinterpret_cast<fftw_complex*>(waves_.data());  // NOLINT
   plans_->forward =
@@ -30,6 +41,7 @@ Spectrum::Spectrum(const Tile& field)
 }
 
 Spectrum::~Spectrum() {
+  const std::lock_guard alone(planning());
   fftw_destroy_plan(plans_->forward);
   fftw_destroy_plan(plans_->backward);
 }
@@ -41,6 +53,17 @@ void Spectrum::transform(std::span<const double> field) {
 
 double Spectrum::varianceSeen(std::span<const double> field, std::span<const double> shares) {
   transform(field);
+  return varianceOfWaves(shares);
+}
+
+std::array<double, 2> Spectrum::variancesSeen(std::span<const double> field,
+                                              std::span<const double> shares,
+                                              std::span<const double> otherShares) {
+  transform(field);
+  return {varianceOfWaves(shares), varianceOfWaves(otherShares)};
+}
+
+double Spectrum::varianceOfWaves(std::span<const double> shares) const {
   const auto columns = static_cast<std::size_t>(field_.width / 2 + 1);
   double sum = 0.0;
   for (std::size_t i = 1; i < waves_.size(); ++i) {

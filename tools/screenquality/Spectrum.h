@@ -4,6 +4,7 @@
 // The waves that a field of numbers is made of, and what is left of them when some are weakened.
 #pragma once
 
+#include <array>
 #include <complex>
 #include <memory>
 #include <span>
@@ -15,7 +16,7 @@ namespace gdi::screenquality {
 
 using printmodel::Tile;
 
-// Transforms of fields of one size, taken to repeat. One thread.
+// Transforms of fields of one size, taken to repeat. One thread an object.
 class Spectrum {
  public:
   explicit Spectrum(const Tile& field);
@@ -30,12 +31,17 @@ class Spectrum {
   // Requires: one number for each pixel, row by row.
   double varianceSeen(std::span<const double> field, std::span<const double> shares);
 
+  // The same for two ways of weakening.
+  std::array<double, 2> variancesSeen(std::span<const double> field, std::span<const double> shares,
+                                      std::span<const double> otherShares);
+
   // The field itself so weakened.
   std::vector<double> seen(std::span<const double> field, std::span<const double> shares);
 
  private:
   struct Plans;
   void transform(std::span<const double> field);
+  [[nodiscard]] double varianceOfWaves(std::span<const double> shares) const;
 
   Tile field_;
   std::vector<double> values_;

@@ -111,13 +111,22 @@ FourScreens clusteredAtRationalAngles(int steps, const PaperModel& /*paper*/, do
   return screens;
 }
 
+constexpr Tile kBlueNoiseTile{64, 64};
+
+// The same for every paper, and slow to find.
+const std::array<std::vector<std::uint32_t>, 4>& blueNoiseOrders() {
+  static const std::array<std::vector<std::uint32_t>, 4> orders{
+      voidAndCluster(kBlueNoiseTile, 1), voidAndCluster(kBlueNoiseTile, 2),
+      voidAndCluster(kBlueNoiseTile, 3), voidAndCluster(kBlueNoiseTile, 4)};
+  return orders;
+}
+
 FourScreens blueNoise(int steps, const PaperModel& paper, double gain) {
-  constexpr Tile kTile{64, 64};
   FourScreens screens;
-  std::uint32_t seed = 1;
-  for (Screen& screen : screens) {
-    const UnitOrder order = dispersed(voidAndCluster(kTile, seed++), steps);
-    screen = screenOf(kTile, steps, order, compensatedLevels(kTile, steps, order, paper, gain));
+  for (std::size_t plane = 0; plane < screens.size(); ++plane) {
+    const UnitOrder order = dispersed(blueNoiseOrders().at(plane), steps);
+    screens.at(plane) = screenOf(kBlueNoiseTile, steps, order,
+                                 compensatedLevels(kBlueNoiseTile, steps, order, paper, gain));
   }
   return screens;
 }

@@ -119,7 +119,6 @@ std::vector<std::uint8_t> detailImage() {
 
 double detailLoss(const PrintedScreen& print, const Conditions& conditions) {
   static const std::vector<std::uint8_t> image = detailImage();
-  constexpr Tile kField{kDetailSide, kDetailSide};
   const Screen& screen = print.screen();
   std::vector<std::uint8_t> values;
   std::vector<double> wanted;
@@ -132,11 +131,18 @@ double detailLoss(const PrintedScreen& print, const Conditions& conditions) {
       wanted.push_back(print.reflectance(level));
     }
   }
-  const printmodel::LaserEngine engine(print.paper(), screen.steps);
+  return detailLoss(values, screen.steps, wanted, conditions);
+}
+
+double detailLoss(std::span<const std::uint8_t> values, int steps, std::span<const double> wanted,
+                  const Conditions& conditions) {
+  constexpr Tile kField{kDetailSide, kDetailSide};
+  const PaperModel& paper = conditions.paper;
+  const printmodel::LaserEngine engine(paper, steps);
   const std::vector<double> coverage = engine.coverage(kField, engine.exposure(kField, values));
   const std::vector<double> light =
-      printmodel::PaperLight(print.paper().spread)
-          .reflectance(kField, printmodel::transmissionOf(coverage, print.paper().solid));
+      printmodel::PaperLight(paper.spread)
+          .reflectance(kField, printmodel::transmissionOf(coverage, paper.solid));
 
   Spectrum spectrum(kField);
   const Sight sight = lightnessSight(kField, conditions.inches);

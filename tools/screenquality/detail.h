@@ -5,6 +5,7 @@
 #pragma once
 
 #include <cstdint>
+#include <span>
 #include <vector>
 
 #include "tools/screenquality/Conditions.h"
@@ -21,5 +22,9 @@ std::vector<std::uint8_t> detailImage();
 // The L* difference of the detail image, screened and printed, from the image in the screen's own
 // tones, both as the eye sees them.
 double detailLoss(const PrintedScreen& print, const Conditions& conditions);
+
+// The same of the image as `values` of 0 to `steps`, and as the reflectances that are wanted.
+double detailLoss(std::span<const std::uint8_t> values, int steps, std::span<const double> wanted,
+                  const Conditions& conditions);
 
 }  // namespace gdi::screenquality

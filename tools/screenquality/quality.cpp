@@ -58,6 +58,7 @@ Quality monoQuality(const Screen& black, const Conditions& conditions) {
   takeRoots(quality);
   quality.grain = grain.whole();
   quality.coarse = grain.coarse;
+  quality.noise = grain.noise;
   return quality;
 }
 
@@ -74,6 +75,7 @@ Quality colourQuality(const PlaneScreens& planes, const Conditions& conditions) 
   quality.grain = superposed.pattern;
   quality.coarse = superposed.coarse;
   quality.registration = superposed.registration;
+  quality.noise = superposed.noise;
   return quality;
 }
 

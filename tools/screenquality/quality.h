@@ -18,6 +18,7 @@ struct Quality {
   double curve = 0.0;         // H: tones off a plain curve
   double steps = 0.0;         // Q: tones unevenly spaced
   double registration = 0.0;  // RG: colours that wander with the planes' registration
+  double noise = 0.0;         // N: the engine's noise seen; told beside the others, of no weight
   // J: the root of the sum of the weighted terms' squares.
   [[nodiscard]] double composite() const;
 };

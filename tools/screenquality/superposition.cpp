@@ -4,7 +4,6 @@
 #include "tools/screenquality/superposition.h"
 
 #include <cmath>
-#include <numbers>
 #include <vector>
 
 #include "tools/printmodel/PaperLight.h"
@@ -12,6 +11,7 @@
 #include "tools/screenquality/colour.h"
 #include "tools/screenquality/eye.h"
 #include "tools/screenquality/grain.h"
+#include "tools/screenquality/window.h"
 
 namespace gdi::screenquality {
 namespace {
@@ -42,22 +42,6 @@ std::vector<Shifts> shiftsOf(int registrations) {
     all.push_back(shifts);
   }
   return all;
-}
-
-// A window that fades to nothing at the field's borders (Hann), of mean square 1.
-std::vector<double> hannWindow() {
-  std::vector<double> side;
-  for (int i = 0; i < kSide; ++i) {
-    side.push_back((1.0 - std::cos(2.0 * std::numbers::pi * (i + 0.5) / kSide)) *
-                   std::sqrt(2.0 / 3.0));
-  }
-  std::vector<double> window;
-  for (const double down : side) {
-    for (const double across : side) {
-      window.push_back(down * across);
-    }
-  }
-  return window;
 }
 
 double meanOf(std::span<const double> values) {
@@ -158,7 +142,7 @@ const std::array<Patch, 12> kPatches{{
 
 Superposition superpositionOf(const PrintedPlanes& planes, const Conditions& conditions,
                               std::span<const Patch> patches, int registrations) {
-  static const std::vector<double> window = hannWindow();
+  static const std::vector<double> window = hannWindow(kSide);
   const Sight lightnessShare = lightnessSight(kField, conditions.inches);
   const Sight chromaShare = chromaSight(kField, conditions.inches);
   const Sight coarseLightness = coarseSight(kField, lightnessShare);
@@ -192,8 +176,11 @@ Superposition superpositionOf(const PrintedPlanes& planes, const Conditions& con
               window[i] * (slope[0] * (light[0][i] - mean[0]) + slope[1] * (light[1][i] - mean[1]) +
                            slope[2] * (light[2][i] - mean[2]));
         }
-        patternSquares += spectrum.varianceSeen(error, lab == 0 ? lightnessShare : chromaShare);
-        coarseSquares += spectrum.varianceSeen(error, lab == 0 ? coarseLightness : coarseChroma);
+        const auto [pattern, coarse] =
+            lab == 0 ? spectrum.variancesSeen(error, lightnessShare, coarseLightness)
+                     : spectrum.variancesSeen(error, chromaShare, coarseChroma);
+        patternSquares += pattern;
+        coarseSquares += coarse;
       }
     }
     for (std::size_t lab = 0; lab < 3; ++lab) {

@@ -17,15 +17,6 @@
 namespace gdi::screenquality {
 namespace {
 
-constexpr double kSwing = 0.1;
-
-// How the printers differ that a screen has to serve.
-struct Strayed {
-  double spot;
-  double threshold;
-};
-constexpr std::array<Strayed, 3> kPrinters{{{0.0, 0.0}, {-0.08, 0.05}, {0.07, -0.05}}};
-
 // The mean reflectance of a level's tile, printed by that engine.
 double reflectanceOf(const Screen& screen, const printmodel::LaserEngine& engine,
                      const PaperModel& paper, std::size_t level, double swing) {
@@ -53,23 +44,6 @@ double distanceFrom(double gain, std::span<const double> printed, std::span<cons
   return rootMeanSquare(distances, weights);
 }
 
-// The least distance from a curve of any gain, by ever narrower intervals.
-double leastDistance(std::span<const double> printed, double solid) {
-  const std::vector<double> weights(printed.size(), 1.0 / static_cast<double>(printed.size()));
-  double low = -1.0;
-  double high = 1.0;
-  for (int narrowing = 0; narrowing < 28; ++narrowing) {
-    const double third = (high - low) / 3.0;
-    if (distanceFrom(low + third, printed, weights, solid) <
-        distanceFrom(high - third, printed, weights, solid)) {
-      high -= third;
-    } else {
-      low += third;
-    }
-  }
-  return distanceFrom((low + high) / 2.0, printed, weights, solid);
-}
-
 }  // namespace
 
 double exposureSwing(const PrintedScreen& print) {
@@ -90,7 +64,7 @@ double exposureSwing(const PrintedScreen& print) {
 
 double curveError(const PrintedScreen& print) {
   double squares = 0.0;
-  for (const Strayed& printer : kPrinters) {
+  for (const StrayedPrinter& printer : kPrinters) {
     PaperModel paper = print.paper();
     paper.spot += printer.spot;
     paper.threshold += printer.threshold;
@@ -99,10 +73,28 @@ double curveError(const PrintedScreen& print) {
     for (const std::size_t level : kJudgedLevels) {
       printed.push_back(lightness(reflectanceOf(print.screen(), engine, paper, level, 1.0)));
     }
-    const double distance = leastDistance(printed, paper.solid);
+    const double distance = curveDistance(printed, paper.solid);
     squares += distance * distance;
   }
   return std::sqrt(squares / kPrinters.size());
+}
+
+// By ever narrower intervals.
+double curveDistance(std::span<const double> lightnesses, double solid) {
+  const std::vector<double> weights(lightnesses.size(),
+                                    1.0 / static_cast<double>(lightnesses.size()));
+  double low = -1.0;
+  double high = 1.0;
+  for (int narrowing = 0; narrowing < 28; ++narrowing) {
+    const double third = (high - low) / 3.0;
+    if (distanceFrom(low + third, lightnesses, weights, solid) <
+        distanceFrom(high - third, lightnesses, weights, solid)) {
+      high -= third;
+    } else {
+      low += third;
+    }
+  }
+  return distanceFrom((low + high) / 2.0, lightnesses, weights, solid);
 }
 
 double toneSteps(const PrintedScreen& print) {
@@ -110,12 +102,16 @@ double toneSteps(const PrintedScreen& print) {
   for (std::size_t level = 0; level < kLevels; ++level) {
     tones.push_back(lightness(print.reflectance(level)));
   }
-  const std::vector<double> smooth = smoothed(tones);
+  return toneSteps(tones);
+}
+
+double toneSteps(std::span<const double> lightnesses) {
+  const std::vector<double> smooth = smoothed(lightnesses);
   double squares = 0.0;
-  for (std::size_t level = 0; level < kLevels; ++level) {
-    squares += (tones[level] - smooth[level]) * (tones[level] - smooth[level]);
+  for (std::size_t level = 0; level < lightnesses.size(); ++level) {
+    squares += (lightnesses[level] - smooth[level]) * (lightnesses[level] - smooth[level]);
   }
-  return std::sqrt(squares / kLevels);
+  return std::sqrt(squares / static_cast<double>(lightnesses.size()));
 }
 
 std::vector<double> smoothed(std::span<const double> values) {

@@ -1,0 +1,101 @@
+// SPDX-FileCopyrightText: 2026 The rasterToGDI authors
+// SPDX-License-Identifier: Apache-2.0
+
+// screenquality as the build runs it: its words, its exit status and where its lines go.
+
+#include <algorithm>
+#include <cstdio>
+#include <string>
+
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+
+#include "tests/screenquality/small_bundle.h"
+#include "tests/support/TemporaryFolder.h"
+
+namespace gdi::screenquality {
+namespace {
+
+class ScreenQualityProgram : public testing::Test {
+ protected:
+  // Answers the exit status.
+  int run(const std::string& arguments, const std::string& output = "out") {
+    const std::string command = "cd '" + folder_.path().string() + "' && '" GDI_SCREENQUALITY "' " +
+                                arguments + " >" + output + " 2>errors";
+    std::FILE* pipe = popen(command.c_str(), "r");  // NOLINT(cert-env33-c): a test's own command
+    if (pipe == nullptr) {
+      return -1;
+    }
+    const int status = pclose(pipe);
+    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+  }
+  [[nodiscard]] std::string out() const { return test::contentsOf(folder_.path() / "out"); }
+  [[nodiscard]] std::string errors() const { return test::contentsOf(folder_.path() / "errors"); }
+
+ private:
+  test::TemporaryFolder folder_;
+};
+
+TEST_F(ScreenQualityProgram, HelpTellsEveryOption) {
+  EXPECT_EQ(run("--help"), 0);
+  for (const char* word :
+       {"FOLDER", "--only", "--no-baselines", "--robust", "--bytes", "Exit status"}) {
+    EXPECT_NE(out().find(word), std::string::npos) << word;
+  }
+  EXPECT_EQ(errors(), "");
+}
+
+TEST_F(ScreenQualityProgram, WrongWordsAreRefusedInOneLine) {
+  for (const char* words : {"", "one two", "--fast one", "one --only"}) {
+    EXPECT_EQ(run(words), 2) << words;
+    EXPECT_EQ(out(), "");
+    EXPECT_TRUE(errors().starts_with("screenquality: ")) << errors();
+    EXPECT_EQ(std::ranges::count(errors(), '\n'), 1) << errors();
+  }
+}
+
+TEST_F(ScreenQualityProgram, AKeyThatNoJobFormsIsRefused) {
+  EXPECT_EQ(run("one --only FineGlossyColor"), 2);
+  EXPECT_EQ(errors(),
+            "screenquality: FineGlossyColor is no key of a set; screenquality --help tells more\n");
+}
+
+TEST_F(ScreenQualityProgram, AMissingFolderCannotBeRead) {
+  EXPECT_EQ(run("/nonexistent"), 2);
+  EXPECT_EQ(out(), "");
+  EXPECT_NE(errors().find("screenquality: /nonexistent: the set "), std::string::npos) << errors();
+}
+
+TEST_F(ScreenQualityProgram, OneSetIsJudgedAlone) {
+  ASSERT_EQ(run("'" GDI_BUNDLE "' --no-baselines --only FastThinMono"), 0) << errors();
+  EXPECT_EQ(std::ranges::count(out(), '\n'), 2) << out();
+  EXPECT_NE(out().find("\nFast     Mono  plain (6)  "), std::string::npos) << out();
+  EXPECT_EQ(errors(), "");
+}
+
+TEST_F(ScreenQualityProgram, BytesAreTheSamplePages) {
+  ASSERT_EQ(run("'" GDI_BUNDLE "' --no-baselines --only FastThinMono --bytes"), 0) << errors();
+  EXPECT_NE(out().find("bytes of a page"), std::string::npos) << out();
+  EXPECT_NE(out().find("photograph"), std::string::npos) << out();
+}
+
+TEST_F(ScreenQualityProgram, ScreensThatBreakARuleAreNotJudged) {
+  SmallBundle bundle;
+  bundle.write();
+  EXPECT_EQ(run(std::string("'").append(bundle.path().string()).append("' --only FastPlainMono")),
+            1);
+  EXPECT_EQ(out(), "");
+  EXPECT_NE(errors().find(": screen flip: 2 different mean tones, fewer than 250\n"),
+            std::string::npos)
+      << errors();
+}
+
+TEST_F(ScreenQualityProgram, TablesThatCannotBeWrittenAreTold) {
+  EXPECT_EQ(run("'" GDI_BUNDLE "' --no-baselines --only FastThinMono", "/dev/full"), 2);
+  EXPECT_EQ(errors(), "screenquality: the tables cannot be written\n");
+  EXPECT_EQ(run("--help", "/dev/full"), 2);
+  EXPECT_EQ(errors(), "screenquality: the help cannot be written\n");
+}
+
+}  // namespace
+}  // namespace gdi::screenquality

@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: 2026 The rasterToGDI authors
+// SPDX-License-Identifier: Apache-2.0
+
+// Whether sets stay ahead of the baselines in printers and at distances that they are not made for.
+#pragma once
+
+#include <ostream>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "tools/screenquality/judging.h"
+
+namespace gdi::screenquality {
+
+struct OtherConditions {
+  std::string name;  // "spot 0.46"
+  Conditions conditions;
+};
+
+// A paper class as it is, then with one thing changed at a time: the spot, the threshold, the
+// softness, the noise, the distance.
+std::vector<OtherConditions> otherConditions(const Conditions& nominal);
+
+// A set and the best baseline under one of them.
+struct Standing {
+  const ScreenSet* set = nullptr;
+  std::string condition;
+  double j = 0.0;
+  double bestJ = 0.0;
+  std::string best;  // the baseline's name
+  [[nodiscard]] bool isAhead() const { return j <= bestJ; }
+};
+
+// Set by set, all conditions of each. Screens and baselines stay those made for the nominal paper.
+std::vector<Standing> standingsOf(std::span<const ScreenSet> sets);
+
+// A line a standing, then where sets do not stay ahead.
+void writeStandings(std::ostream& out, std::span<const Standing> standings);
+
+}  // namespace gdi::screenquality
