@@ -91,17 +91,18 @@ double fitted(std::span<const double> window, int position) {
         return j * j * j - 93.4 * j;
     }
   };
-  double value = 0.0;
+  double sum = 0.0;
   for (int power = 0; power < 4; ++power) {
     double common = 0.0;
     double norm = 0.0;
+    auto value = window.begin();
     for (int j = -12; j <= 12; ++j) {
-      common += polynomial(power, j) * window[static_cast<std::size_t>(j + 12)];
+      common += polynomial(power, j) * *value++;
       norm += polynomial(power, j) * polynomial(power, j);
     }
-    value += polynomial(power, position) * common / norm;
+    sum += polynomial(power, position) * common / norm;
   }
-  return value;
+  return sum;
 }
 
 // What the middle of a window takes of the value j further on.
