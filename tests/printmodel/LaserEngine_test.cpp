@@ -43,9 +43,11 @@ double blurred(double distance, double half, double sigma) {
 
 // The exposure of that point of a pixel.
 double at(const Exposure& exposure, const Tile& tile, int x, int y, int pointX, int pointY) {
-  const int row = kPointsAcross * y + pointY;
-  const int column = kPointsAcross * x + pointX;
-  return exposure[static_cast<std::size_t>(row * tile.width * kPointsAcross + column)];
+  const auto row = static_cast<std::size_t>(kPointsAcross) * static_cast<std::size_t>(y) +
+                   static_cast<std::size_t>(pointY);
+  const auto column = static_cast<std::size_t>(kPointsAcross) * static_cast<std::size_t>(x) +
+                      static_cast<std::size_t>(pointX);
+  return exposure[row * static_cast<std::size_t>(tile.width) * kPointsAcross + column];
 }
 
 double meanOf(const std::vector<double>& values) {

@@ -3,6 +3,7 @@
 
 #include "tools/screenquality/Spectrum.h"
 
+#include <array>
 #include <cmath>
 #include <complex>
 #include <cstddef>
@@ -22,7 +23,8 @@ std::size_t halfSize(const Tile& tile) {
 }
 
 Field ones(const Tile& tile) {
-  return Field(halfSize(tile), 1.0);
+  Field shares(halfSize(tile), 1.0);
+  return shares;
 }
 
 double angle(int turns, int length) {
@@ -163,7 +165,7 @@ TEST(Spectrum, AWaveIsSeenAtItsShareAndTheMeanAtItsOwn) {
     for (std::size_t i = 0; i < wave.size(); ++i) {
       field.push_back(10.0 + wave[i] + other[i]);
     }
-    const auto columns = static_cast<std::size_t>(tile.width / 2 + 1);
+    const std::size_t columns = static_cast<std::size_t>(tile.width) / 2 + 1;
     Field shares(halfSize(tile), 0.0);
     shares[0] = 0.5;
     shares[static_cast<std::size_t>(tile.height - 3) * columns + 2] = 0.3;

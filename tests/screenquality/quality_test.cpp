@@ -86,9 +86,9 @@ TEST(MonoQuality, BarePaperIsOnlyOffTheCurve) {
 TEST(ColourQuality, PlanesTonesCountByHowMuchIsSeenOfThem) {
   const std::array<Screen, 4> screens{uprightLines(4), levelLines(6), uprightLines(9),
                                       levelLines(16)};
+  const auto& [cyan, magenta, yellow, black] = screens;
   constexpr std::array<double, 4> kWeights{0.30, 0.35, 0.05, 0.30};
-  const Quality quality =
-      colourQuality({&screens[0], &screens[1], &screens[2], &screens[3]}, kPlain);
+  const Quality quality = colourQuality({&cyan, &magenta, &yellow, &black}, kPlain);
   double swing = 0.0;
   double detail = 0.0;
   double curve = 0.0;

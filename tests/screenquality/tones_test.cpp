@@ -61,6 +61,21 @@ double kinked(double tone) {
   return tone < 0.5 ? 1.4 * tone : 0.7 + 0.6 * (tone - 0.5);
 }
 
+// How far the judged levels' L* are from the nearest plain curve, by trying one gain after another.
+double nearestCurve(std::span<const double> printed) {
+  double least = std::numeric_limits<double>::max();
+  for (int step = -500; step <= 500; ++step) {
+    double squares = 0.0;
+    for (std::size_t i = 0; i < printed.size(); ++i) {
+      const double wanted = std::min(lifted(toneOf(kJudgedLevels.at(i)), step / 1000.0), 1.0);
+      const double distance = printed[i] - lightness(reflectanceOfArea(wanted));
+      squares += distance * distance;
+    }
+    least = std::min(least, std::sqrt(squares / static_cast<double>(printed.size())));
+  }
+  return least;
+}
+
 // The cubic fitted to 25 values, at `position` of -12 to 12, by the polynomials that are
 // orthogonal there: 1, j, j^2 - 52, j^3 - 93.4 j.
 double fitted(std::span<const double> window, int position) {
@@ -76,17 +91,18 @@ double fitted(std::span<const double> window, int position) {
         return j * j * j - 93.4 * j;
     }
   };
-  double value = 0.0;
+  double sum = 0.0;
   for (int power = 0; power < 4; ++power) {
     double common = 0.0;
     double norm = 0.0;
+    auto value = window.begin();
     for (int j = -12; j <= 12; ++j) {
-      common += polynomial(power, j) * window[static_cast<std::size_t>(j + 12)];
+      common += polynomial(power, j) * *value++;
       norm += polynomial(power, j) * polynomial(power, j);
     }
-    value += polynomial(power, position) * common / norm;
+    sum += polynomial(power, position) * common / norm;
   }
-  return value;
+  return sum;
 }
 
 // What the middle of a window takes of the value j further on.
@@ -182,20 +198,34 @@ TEST(CurveError, TonesOnAPlainCurveOfAnyGainHaveHardlyAny) {
 }
 
 TEST(CurveError, AKinkIsItsDistanceFromTheNearestCurve) {
-  double least = std::numeric_limits<double>::max();
-  for (int step = -500; step <= 500; ++step) {
-    double squares = 0.0;
-    for (const std::size_t level : kJudgedLevels) {
-      const double tone = toneOf(level);
-      const double wanted = std::min(lifted(tone, step / 1000.0), 1.0);
-      const double distance =
-          lightness(reflectanceOfArea(kinked(tone))) - lightness(reflectanceOfArea(wanted));
-      squares += distance * distance;
-    }
-    least = std::min(least, std::sqrt(squares / static_cast<double>(kJudgedLevels.size())));
+  std::vector<double> printed;
+  for (const std::size_t level : kJudgedLevels) {
+    printed.push_back(lightness(reflectanceOfArea(kinked(toneOf(level)))));
   }
-  EXPECT_GT(least, 0.5);
-  EXPECT_NEAR(curveErrorOf(printing(kinked)), least, 0.05);
+  const double expected = nearestCurve(printed);
+  EXPECT_GT(expected, 0.5);
+  EXPECT_NEAR(curveErrorOf(printing(kinked)), expected, 0.05);
+}
+
+TEST(CurveError, IsThatOfASharperAndASofterPrinterToo) {
+  const PaperModel nominal{0.58, 0.42, 0.055, 1.1, kSolid};
+  PaperModel sharper = nominal;
+  sharper.spot = 0.50;
+  sharper.threshold = 0.47;
+  PaperModel softer = nominal;
+  softer.spot = 0.65;
+  softer.threshold = 0.37;
+  const Screen screen = uprightLines(8);
+  double squares = 0.0;
+  for (const PaperModel& paper : {nominal, sharper, softer}) {
+    const PrintedScreen print(screen, paper);
+    std::vector<double> printed;
+    for (const std::size_t level : kJudgedLevels) {
+      printed.push_back(lightness(print.reflectance(level)));
+    }
+    squares += std::pow(nearestCurve(printed), 2.0);
+  }
+  EXPECT_NEAR(curveError(PrintedScreen(screen, nominal)), std::sqrt(squares / 3.0), 1e-3);
 }
 
 TEST(ExposureSwing, BarePaperHasNone) {

@@ -27,7 +27,9 @@ class Shares {
       : shares_(spotShares(kLarge, kLargeTile, 1, 0.0, shape)) {}
 
   [[nodiscard]] double at(int x, int y) const {
-    return static_cast<double>(shares_[static_cast<std::size_t>(y * kLargeTile.width + x)]) /
+    return static_cast<double>(
+               shares_[static_cast<std::size_t>(y) * static_cast<std::size_t>(kLargeTile.width) +
+                       static_cast<std::size_t>(x)]) /
            static_cast<double>(kWholeCell);
   }
   // How many pixels of 16 x 16 from there have shares between those.
