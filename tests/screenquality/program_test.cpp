@@ -73,11 +73,13 @@ TEST_F(ScreenQualityProgram, OneSetIsJudgedAlone) {
   EXPECT_EQ(errors(), "");
 }
 
+#ifndef GDI_SLOW_BUILD
 TEST_F(ScreenQualityProgram, BytesAreTheSamplePages) {
   ASSERT_EQ(run("'" GDI_BUNDLE "' --no-baselines --only FastThinMono --bytes"), 0) << errors();
   EXPECT_NE(out().find("bytes of a page"), std::string::npos) << out();
   EXPECT_NE(out().find("photograph"), std::string::npos) << out();
 }
+#endif
 
 TEST_F(ScreenQualityProgram, ScreensThatBreakARuleAreNotJudged) {
   SmallBundle bundle;
