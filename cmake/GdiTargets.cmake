@@ -44,6 +44,8 @@ function(gdi_test name)
   add_executable(${name} ${ARG_SOURCES})
   set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
   target_link_libraries(${name} PRIVATE gdi_flags ${ARG_DEPENDS} GTest::gtest GTest::gtest_main)
+  # Half of the time that most tests take to compile.
+  target_precompile_headers(${name} PRIVATE <gtest/gtest.h>)
   gtest_discover_tests(${name} TEST_PREFIX "${name}." DISCOVERY_TIMEOUT 60
                        PROPERTIES TIMEOUT 120)
 endfunction()

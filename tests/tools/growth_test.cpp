@@ -16,10 +16,34 @@ namespace {
 constexpr Lattice kSquares{4, 1, 0, 0, 1, 870, 880};
 constexpr Tile kTile{16, 16};
 constexpr Lattice kTurned{14, 2, -3, 4, 1, 10, 13};
-const GrowthRule kRule{6.0, 2, 3};
+
+GrowthRule evenRule() {
+  GrowthRule rule;
+  rule.evenness = 6.0;
+  rule.leastDot = 2;
+  rule.leastHole = 3;
+  return rule;
+}
+
+// Dots grow by their shape alone, none waiting for another.
+GrowthRule looseRule() {
+  GrowthRule rule;
+  rule.evenness = 0.0;
+  rule.leastDot = 1;
+  rule.leastHole = 1;
+  return rule;
+}
 
 std::vector<std::uint32_t> grown(int steps, double softEdge, GrowthStart start = {}) {
-  return growthOrder(kSquares, kTile, steps, softEdge, kRule, start);
+  return growthOrder(kSquares, kTile, steps, softEdge, evenRule(), start);
+}
+
+std::vector<std::uint32_t> grownBy(const GrowthRule& rule) {
+  return growthOrder(kSquares, kTile, 1, 0.0, rule, {});
+}
+
+std::vector<std::uint32_t> lightHalf(const std::vector<std::uint32_t>& order) {
+  return {order.begin(), order.begin() + 128};
 }
 
 TEST(GrowthOrder, EveryPixelTakesEachOfItsUnitsOnce) {
@@ -79,7 +103,7 @@ TEST(GrowthOrder, SeenFromSolidABegunHoleIsGivenItsLeastPixels) {
 TEST(GrowthOrder, DotsGrowEvenly) {
   const Tile tile = tileWithCells(kTurned, 28);
   const std::vector<std::uint32_t> cells = cellNumbers(kTurned, tile, CellsAround::kDots);
-  const std::vector<std::uint32_t> order = growthOrder(kTurned, tile, 1, 0.0, kRule, {});
+  const std::vector<std::uint32_t> order = growthOrder(kTurned, tile, 1, 0.0, evenRule(), {});
   std::vector<int> sizes(28, 0);
   for (std::size_t unit = 0; unit < order.size(); ++unit) {
     ++sizes[cells[order[unit]]];
@@ -87,6 +111,73 @@ TEST(GrowthOrder, DotsGrowEvenly) {
     // Two pixels is a dot just completed, three a hole about to be.
     EXPECT_LE(*most - *least, 3) << "after " << unit + 1 << " units";
   }
+}
+
+TEST(GrowthOrder, WithoutEvennessUnitsComeInTheOrderOfTheirShares) {
+  const std::vector<std::int64_t> shares = spotShares(kSquares, kTile, 1, 0.0, {});
+  const std::vector<std::uint32_t> order = grownBy(looseRule());
+  for (std::size_t unit = 1; unit < order.size(); ++unit) {
+    EXPECT_LE(shares[order[unit - 1]], shares[order[unit]]) << "unit " << unit;
+  }
+}
+
+TEST(GrowthOrder, TheReachOfCrowdingMattersOnlyWhereCrowdedPlacesArePutOff) {
+  GrowthRule loose = looseRule();
+  GrowthRule even = evenRule();
+  const std::vector<std::uint32_t> byShape = grownBy(loose);
+  const std::vector<std::uint32_t> usual = grownBy(even);
+  loose.crowding = 0.3;
+  even.crowding = 0.3;
+  EXPECT_EQ(grownBy(loose), byShape);
+  EXPECT_NE(grownBy(even), usual);
+}
+
+TEST(GrowthOrder, TheDotsShapeRulesTheLightHalf) {
+  GrowthRule rule = looseRule();
+  const std::vector<std::uint32_t> usual = grownBy(rule);
+  rule.dots.ellipse = 0.5;
+  EXPECT_NE(lightHalf(grownBy(rule)), lightHalf(usual));
+}
+
+TEST(GrowthOrder, TheHolesShapeRulesTheDarkHalfAlone) {
+  GrowthRule rule = looseRule();
+  const std::vector<std::uint32_t> usual = grownBy(rule);
+  rule.holes.ellipse = 0.5;
+  const std::vector<std::uint32_t> shaped = grownBy(rule);
+  EXPECT_EQ(lightHalf(shaped), lightHalf(usual));
+  EXPECT_NE(shaped, usual);
+}
+
+TEST(GrowthOrder, EllipticDotsHaveJoinedToChainsAtHalf) {
+  GrowthRule rule = looseRule();
+  rule.dots.ellipse = 0.5;
+  std::vector<int> columns(16, 0);
+  for (const std::uint32_t pixel : lightHalf(grownBy(rule))) {
+    ++columns[pixel % 16];
+  }
+  // V runs down the tile: the columns of the dots' middles are whole, those between them blank.
+  for (std::size_t cell = 0; cell < 4; ++cell) {
+    EXPECT_EQ(columns[4 * cell], 16);
+    EXPECT_EQ(columns[4 * cell + 2], 0);
+  }
+}
+
+TEST(GrowthOrder, OfPairedDotsEverySecondGrowsFirst) {
+  GrowthRule rule = looseRule();
+  rule.dots.pairs = 0.5;
+  const std::vector<std::uint32_t> cells = cellNumbers(kSquares, kTile, CellsAround::kDots);
+  const std::vector<std::uint32_t> order = grownBy(rule);
+  std::vector<int> sizes(16, 0);
+  for (std::size_t unit = 0; unit < 64; ++unit) {
+    if (unit == 8) {
+      EXPECT_EQ(std::count(sizes.begin(), sizes.end(), 1), 8);
+    }
+    ++sizes[cells[order[unit]]];
+  }
+  std::sort(sizes.begin(), sizes.end());
+  EXPECT_LT(sizes[7], sizes[8]) << "eight dots of each size";
+  EXPECT_EQ(sizes[0], sizes[7]);
+  EXPECT_EQ(sizes[8], sizes[15]);
 }
 
 TEST(GrowthOrder, IsTheSameEachTime) {

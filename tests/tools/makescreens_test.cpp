@@ -50,13 +50,12 @@ class MakeScreens : public testing::Test {
 };
 
 constexpr const char* kTiny =
-    "quality Fast 1 20\nclass plain 0.58 0.42 0.055 1.1 0.035 0.16\npaper Bond plain\n"
-    "phase corner 0.01 0.013\n"
-    "screen plain Fast cyan    14 2 -3 4 1 corner 0\n"
-    "screen plain Fast magenta 14 3 2 1 -4 corner 0\n"
-    "screen plain Fast yellow  14 3 -1 -2 -4 corner 0\n"
-    "screen plain Fast black   14 1 3 4 -2 corner 0\n"
-    "screen plain Fast mono    20 4 -2 -2 -4 corner 0\n";
+    "quality Fast 1\nclass plain 0.58 0.42 0.055 1.1 0.035 0.16\npaper Bond plain\n"
+    "screen plain Fast cyan    14 2 -3 4 1 0.01 0.013 20 0 6 1 1 0 0 1 0 0 2 3\n"
+    "screen plain Fast magenta 14 3 2 1 -4 0.01 0.013 20 0 6 1 1 0 0 1 0 0 2 3\n"
+    "screen plain Fast yellow  14 3 -1 -2 -4 0.01 0.013 20 0 6 1 1 0 0 1 0 0 2 3\n"
+    "screen plain Fast black   14 1 3 4 -2 0.01 0.013 20 0 6 1 1 0 0 1 0 0 2 3\n"
+    "screen plain Fast mono    20 4 -2 -2 -4 0.01 0.013 20 0 6 1 1 0 0 1 0 0 2 3\n";
 
 TEST_F(MakeScreens, WritesTheListAndEveryScreen) {
   EXPECT_EQ(run(writeParameters(kTiny) + ' ' + (folder_ / "out").string()), 0) << error_;
@@ -98,7 +97,7 @@ TEST_F(MakeScreens, MakesTheBundlesScreensAgainToTheByte) {
 }
 
 TEST_F(MakeScreens, RefusesBadParametersWithFileAndLine) {
-  const std::string path = writeParameters("quality Fast 1 50\npaint red\n");
+  const std::string path = writeParameters("quality Fast 1\npaint red\n");
   EXPECT_EQ(run(path + ' ' + (folder_ / "out").string()), 1);
   EXPECT_EQ(error_, path + ":2: unknown keyword \"paint\"\n");
   EXPECT_FALSE(std::filesystem::exists(folder_ / "out"));

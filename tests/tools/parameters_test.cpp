@@ -14,16 +14,19 @@ namespace {
 
 // The least that is complete: 10 lines.
 constexpr std::string_view kGood =
-    "quality Fast 1 50\n"
+    "quality Fast 1\n"
     "class plain 0.58 0.42 0.055 1.1 0.035 0.16\n"
     "paper Bond plain\n"
-    "phase corner 0.01 0.013\n"
+    "start black 0.5 0.25\n"
     "\n"
-    "screen plain Fast cyan    14 2 -3 4 1 corner 0\n"
-    "screen plain Fast magenta 14 3 2 1 -4 corner 0\n"
-    "screen plain Fast yellow  14 3 -1 -2 -4 corner 0\n"
-    "screen plain Fast black   14 1 3 4 -2 corner 0.5  # a remark\n"
-    "screen plain Fast mono    20 4 -2 -2 -4 corner 1\n";
+    "screen plain Fast cyan    14 2 -3 4 1   0.01 0.013 50 0   6 1 1 0 0 1 0 0 2 3\n"
+    "screen plain Fast magenta 14 3 2 1 -4   0.01 0.013 50 0   6 1 1 0 0 1 0 0 2 3\n"
+    "screen plain Fast yellow  14 3 -1 -2 -4 0.01 0.013 50 0   6 1 1 0 0 1 0 0 2 3\n"
+    "screen plain Fast black   14 1 3 4 -2   0.01 0.013 50 0.5 6 1 1 0 0 1 0 0 2 3  # a remark\n"
+    "screen plain Fast mono    20 4 -2 -2 -4 0.5 0 50 1 4 1.5 0.8 -0.1 0 0.7 0.2 0.3 1 4\n";
+
+// What follows a lattice whose cells are alike.
+constexpr std::string_view kPlain = " 0.01 0.013 50 0 6 1 1 0 0 1 0 0 2 3";
 
 std::string errorOf(std::string_view text) {
   std::string error;
@@ -44,31 +47,53 @@ std::string errorWith(int number, std::string_view line) {
   return errorOf(text);
 }
 
+std::string screenLine(std::string_view beginning) {
+  std::string line = "screen ";
+  line += beginning;
+  line += kPlain;
+  return line;
+}
+
 TEST(Parameters, AreReadFromPlainLines) {
   std::string error;
   const std::optional<Parameters> read = parseParameters(kGood, "screens.conf", error);
   ASSERT_TRUE(read.has_value()) << error;
   EXPECT_EQ(read->qualities.at(0).name, "Fast");
   EXPECT_EQ(read->qualities.at(0).depth, 1);
-  EXPECT_EQ(read->qualities.at(0).leastCells, 50);
   EXPECT_EQ(read->papers.at(0).name, "Bond");
   EXPECT_DOUBLE_EQ(read->classes.at(0).model.spread, 1.1);
   EXPECT_DOUBLE_EQ(read->classes.at(0).gain, 0.16);
   EXPECT_EQ(read->screen(0, 0, 2).lattice.c, -2);
   EXPECT_EQ(read->screen(0, 0, 2).lattice.phaseV, 13);
   EXPECT_DOUBLE_EQ(read->screen(0, 0, 3).softEdge, 0.5);
-  EXPECT_EQ(read->screen(0, 0, 4).lattice.n, 20);
+  EXPECT_EQ(read->screen(0, 0, 0).leastCells, 50);
+  EXPECT_DOUBLE_EQ(read->starts.at(3).y, 0.25);
 }
 
-TEST(Parameters, GrowthStartAndVariationMayBeStated) {
+TEST(Parameters, AScreenSaysHowItsDotsAndItsHolesGrow) {
   std::string error;
-  const std::string text = "growth 4 1 2\nstart black 0.5 0.25\nvariation 0.08 0.04\n";
-  const auto read = parseParameters(text + std::string(kGood), "screens.conf", error);
+  const std::optional<Parameters> read = parseParameters(kGood, "screens.conf", error);
   ASSERT_TRUE(read.has_value()) << error;
-  EXPECT_DOUBLE_EQ(read->growth.evenness, 4.0);
-  EXPECT_EQ(read->growth.leastDot, 1);
-  EXPECT_EQ(read->growth.leastHole, 2);
-  EXPECT_DOUBLE_EQ(read->starts.at(3).y, 0.25);
+  const ScreenParameters& screen = read->screen(0, 0, 4);
+  EXPECT_EQ(screen.lattice.n, 20);
+  EXPECT_EQ(screen.lattice.phaseU, 500);
+  EXPECT_DOUBLE_EQ(screen.softEdge, 1.0);
+  EXPECT_DOUBLE_EQ(screen.growth.evenness, 4.0);
+  EXPECT_DOUBLE_EQ(screen.growth.crowding, 1.5);
+  EXPECT_DOUBLE_EQ(screen.growth.dots.ellipse, 0.8);
+  EXPECT_DOUBLE_EQ(screen.growth.dots.roundness, -0.1);
+  EXPECT_DOUBLE_EQ(screen.growth.dots.pairs, 0.0);
+  EXPECT_DOUBLE_EQ(screen.growth.holes.ellipse, 0.7);
+  EXPECT_DOUBLE_EQ(screen.growth.holes.roundness, 0.2);
+  EXPECT_DOUBLE_EQ(screen.growth.holes.pairs, 0.3);
+  EXPECT_EQ(screen.growth.leastDot, 1);
+  EXPECT_EQ(screen.growth.leastHole, 4);
+}
+
+TEST(Parameters, VariationMayBeStated) {
+  std::string error;
+  const auto read = parseParameters("variation 0.08 0.04\n" + std::string(kGood), "x", error);
+  ASSERT_TRUE(read.has_value()) << error;
   EXPECT_DOUBLE_EQ(read->variation.threshold, 0.04);
 }
 
@@ -77,9 +102,9 @@ TEST(Parameters, AnUnknownKeywordIsRefusedWithItsLine) {
 }
 
 TEST(Parameters, AMissingOrSurplusFieldIsRefusedWithTheFormOfTheLine) {
-  const std::string expected = "screens.conf:1: expected: quality NAME DEPTH CELLS";
-  EXPECT_EQ(errorWith(1, "quality Fast 1"), expected);
-  EXPECT_EQ(errorWith(1, "quality Fast 1 50 3"), expected);
+  const std::string expected = "screens.conf:1: expected: quality NAME DEPTH";
+  EXPECT_EQ(errorWith(1, "quality Fast"), expected);
+  EXPECT_EQ(errorWith(1, "quality Fast 1 50"), expected);
   EXPECT_EQ(errorWith(1, "quality"), expected);
 }
 
@@ -90,18 +115,16 @@ TEST(Parameters, ANumberOutOfRangeOrWithTextBehindItIsRefused) {
             "screens.conf:2: spot \"0.58x\" is no number of 0.1 to 1");
   EXPECT_EQ(errorWith(2, "class plain nan 0.42 0.055 1.1 0.035 0.16"),
             "screens.conf:2: spot \"nan\" is no number of 0.1 to 1");
-  EXPECT_EQ(errorWith(1, "quality Fast 1 99999999999"),
-            "screens.conf:1: cell count \"99999999999\" is no number of 1 to 1024");
-  EXPECT_EQ(errorWith(1, "quality Fast 3 50"), "screens.conf:1: depth is none of 1, 2, 4 and 8");
+  EXPECT_EQ(errorWith(1, "quality Fast 99999999999"),
+            "screens.conf:1: depth \"99999999999\" is no number of 1 to 8");
+  EXPECT_EQ(errorWith(1, "quality Fast 3"), "screens.conf:1: depth is none of 1, 2, 4 and 8");
 }
 
 TEST(Parameters, AnUnknownReferenceIsRefused) {
   EXPECT_EQ(errorWith(3, "paper Bond glossy"), "screens.conf:3: unknown class \"glossy\"");
-  EXPECT_EQ(errorWith(6, "screen plain Best cyan 14 2 -3 4 1 corner 0"),
+  EXPECT_EQ(errorWith(6, screenLine("plain Best cyan 14 2 -3 4 1")),
             "screens.conf:6: unknown quality \"Best\"");
-  EXPECT_EQ(errorWith(6, "screen plain Fast cyan 14 2 -3 4 1 edge 0"),
-            "screens.conf:6: unknown phase \"edge\"");
-  EXPECT_EQ(errorWith(6, "screen plain Fast orange 14 2 -3 4 1 corner 0"),
+  EXPECT_EQ(errorWith(6, screenLine("plain Fast orange 14 2 -3 4 1")),
             "screens.conf:6: unknown plane \"orange\"");
 }
 
@@ -112,7 +135,7 @@ TEST(Parameters, ANameGivenTwiceOrUnfitForAFileIsRefused) {
 }
 
 TEST(Parameters, AScreenGivenTwiceIsRefused) {
-  EXPECT_EQ(errorWith(7, "screen plain Fast cyan 14 3 2 1 -4 corner 0"),
+  EXPECT_EQ(errorWith(7, screenLine("plain Fast cyan 14 3 2 1 -4")),
             "screens.conf:7: this class, quality and plane has a screen already");
 }
 
@@ -121,24 +144,30 @@ TEST(Parameters, AMissingScreenIsNamedAtItsClass) {
 }
 
 TEST(Parameters, ALatticeWithoutAreaOrWithTinyCellsIsRefused) {
-  EXPECT_EQ(errorWith(6, "screen plain Fast cyan 14 2 4 1 2 corner 0"),
+  EXPECT_EQ(errorWith(6, screenLine("plain Fast cyan 14 2 4 1 2")),
             "screens.conf:6: A D - B C is 0: these are no two directions");
-  EXPECT_EQ(errorWith(6, "screen plain Fast cyan 4 2 0 0 3 corner 0"),
+  EXPECT_EQ(errorWith(6, screenLine("plain Fast cyan 4 2 0 0 3")),
             "screens.conf:6: a cell has less than 4 pixels");
 }
 
 TEST(Parameters, ATileTooSmallForTheLevelsOrTooLargeIsRefused) {
   // 2 x 8 cells of 14 pixels: 14 x 14 pixels are 196 units.
-  EXPECT_EQ(errorWith(1, "quality Fast 1 8"),
+  EXPECT_EQ(errorWith(6, "screen plain Fast cyan 14 2 -3 4 1 0 0 8 0 6 1 1 0 0 1 0 0 2 3"),
             "screens.conf:6: the tile has only 196 units of output, fewer than the 255 levels");
-  EXPECT_EQ(errorWith(1, "quality Fast 1 1000"),
+  EXPECT_EQ(errorWith(6, "screen plain Fast cyan 14 2 -3 4 1 0 0 1000 0 6 1 1 0 0 1 0 0 2 3"),
             "screens.conf:6: the tile has more than 4096 pixels");
+}
+
+TEST(Parameters, PairsThatTheTileCannotRepeatAreRefused) {
+  // A tile of one cell, and of 3 by 1: of three cells in a row two neighbours would be alike.
+  EXPECT_EQ(errorWith(6, "screen plain Fast cyan 16 1 0 0 1 0 0 1 0 6 1 1 0 0.1 1 0 0 2 3"),
+            "screens.conf:6: the tile holds no whole pairs of cells: PAIRS has to be 0");
 }
 
 TEST(Parameters, AFileThatLacksAWholeKindIsRefusedAtItsEnd) {
   EXPECT_EQ(errorOf(""), "screens.conf:1: no quality is given");
-  EXPECT_EQ(errorOf("quality Fast 1 50\n# end\n"), "screens.conf:2: no class is given");
-  EXPECT_EQ(errorOf("quality Fast 1 50\nclass plain 0.58 0.42 0.055 1.1 0.035 0.16"),
+  EXPECT_EQ(errorOf("quality Fast 1\n# end\n"), "screens.conf:2: no class is given");
+  EXPECT_EQ(errorOf("quality Fast 1\nclass plain 0.58 0.42 0.055 1.1 0.035 0.16"),
             "screens.conf:2: no paper is given");
 }
 

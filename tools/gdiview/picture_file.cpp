@@ -8,8 +8,8 @@
 #include <cmath>
 #include <system_error>
 
-#include "tools/gdiview/PngFile.h"
 #include "tools/gdiview/escaped_text.h"
+#include "tools/png/PngFile.h"
 
 namespace gdi::gdiview {
 

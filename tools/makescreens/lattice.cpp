@@ -49,6 +49,12 @@ Tile tileWithCells(const Lattice& lattice, int leastCells) {
   return tile;
 }
 
+bool holdsPairs(const Lattice& lattice, const Tile& tile) {
+  const auto isEven = [&lattice](int cellsTimesN) { return cellsTimesN / lattice.n % 2 == 0; };
+  return isEven((lattice.a + lattice.c) * tile.width) &&
+         isEven((lattice.b + lattice.d) * tile.height);
+}
+
 std::int64_t cellScale(const Lattice& lattice) {
   return std::int64_t{kPointsPerPixel} * kPhaseScale * lattice.n;
 }

@@ -37,6 +37,10 @@ int cellsIn(const Lattice& lattice, const Tile& tile);
 // `leastCells` cells.
 Tile tileWithCells(const Lattice& lattice, int leastCells);
 
+// Whether the tile repeats a pattern that tells every second cell along U, and along V, from its
+// neighbours.
+bool holdsPairs(const Lattice& lattice, const Tile& tile);
+
 // Coordinates of a point, each a count of 1 / scale cells. Points lie on a grid of 16 to the pixel.
 struct CellPoint {
   std::int64_t u = 0;

@@ -33,15 +33,16 @@ class Reader {
       std::string_view fields;
       bool (Reader::*read)(Fields);
     };
-    static constexpr std::array<Form, 8> kForms{{
-        {"quality", "NAME DEPTH CELLS", &Reader::readQuality},
-        {"growth", "EVENNESS LEAST-DOT LEAST-HOLE", &Reader::readGrowth},
+    static constexpr std::array<Form, 6> kForms{{
+        {"quality", "NAME DEPTH", &Reader::readQuality},
         {"start", "PLANE X Y", &Reader::readStart},
         {"variation", "SPOT THRESHOLD", &Reader::readVariation},
         {"class", "NAME SPOT THRESHOLD SOFTNESS SPREAD SOLID GAIN", &Reader::readClass},
         {"paper", "NAME CLASS", &Reader::readPaper},
-        {"phase", "NAME U V", &Reader::readPhase},
-        {"screen", "CLASS QUALITY PLANE N A B C D PHASE SOFT-EDGE", &Reader::readScreen},
+        {"screen",
+         "CLASS QUALITY PLANE N A B C D U V CELLS SOFT-EDGE EVENNESS REACH DOT-ELLIPSE DOT-ROUND "
+         "DOT-PAIRS HOLE-ELLIPSE HOLE-ROUND HOLE-PAIRS LEAST-DOT LEAST-HOLE",
+         &Reader::readScreen},
     }};
     for (const Form& form : kForms) {
       if (fields.front() != form.keyword) {
@@ -140,8 +141,7 @@ class Reader {
   bool readQuality(Fields fields) {
     Quality quality;
     if (!readNewName("quality", fields[0], quality.name) ||
-        !readNumber("depth", fields[1], 1, 8, quality.depth) ||
-        !readNumber("cell count", fields[2], 1, 1024, quality.leastCells)) {
+        !readNumber("depth", fields[1], 1, 8, quality.depth)) {
       return false;
     }
     if ((quality.depth & (quality.depth - 1)) != 0) {
@@ -149,13 +149,6 @@ class Reader {
     }
     parameters_.qualities.push_back(std::move(quality));
     return true;
-  }
-
-  bool readGrowth(Fields fields) {
-    GrowthRule& growth = parameters_.growth;
-    return readNumber("evenness", fields[0], 0.0, 100.0, growth.evenness) &&
-           readNumber("least dot", fields[1], 1, 16, growth.leastDot) &&
-           readNumber("least hole", fields[2], 1, 16, growth.leastHole);
   }
 
   bool readStart(Fields fields) {
@@ -201,49 +194,59 @@ class Reader {
     return true;
   }
 
-  bool readPhase(Fields fields) {
-    Phase phase;
-    double u = 0.0;
-    double v = 0.0;
-    if (!readNewName("phase", fields[0], phase.name) ||
-        !readNumber("phase", fields[1], 0.0, 0.999, u) ||
-        !readNumber("phase", fields[2], 0.0, 0.999, v)) {
-      return false;
-    }
-    phase.u = static_cast<int>(std::lround(u * 1000.0));
-    phase.v = static_cast<int>(std::lround(v * 1000.0));
-    phases_.push_back(std::move(phase));
-    return true;
-  }
-
   bool readScreen(Fields fields) {
     std::size_t paperClass = 0;
     std::size_t quality = 0;
     std::size_t plane = 0;
-    std::size_t phase = 0;
     ScreenParameters screen;
-    Lattice& lattice = screen.lattice;
     if (!readReference("class", parameters_.classes, fields[0], paperClass) ||
         !readReference("quality", parameters_.qualities, fields[1], quality) ||
-        !readPlane(fields[2], plane) ||
-        !readNumber("period", fields[3], 1, kLargestPeriod, lattice.n) ||
-        !readNumber("A", fields[4], -kLargestPeriod, kLargestPeriod, lattice.a) ||
-        !readNumber("B", fields[5], -kLargestPeriod, kLargestPeriod, lattice.b) ||
-        !readNumber("C", fields[6], -kLargestPeriod, kLargestPeriod, lattice.c) ||
-        !readNumber("D", fields[7], -kLargestPeriod, kLargestPeriod, lattice.d) ||
-        !readReference("phase", phases_, fields[8], phase) ||
-        !readNumber("soft edge", fields[9], 0.0, 1.0, screen.softEdge)) {
+        !readPlane(fields[2], plane) || !readLattice(fields.subspan(3, 7), screen.lattice) ||
+        !readNumber("cell count", fields[10], 1, 1024, screen.leastCells) ||
+        !readNumber("soft edge", fields[11], 0.0, 1.0, screen.softEdge) ||
+        !readGrowth(fields.subspan(12), screen.growth)) {
       return false;
     }
-    lattice.phaseU = phases_[phase].u;
-    lattice.phaseV = phases_[phase].v;
-    return checkTile(lattice, parameters_.qualities[quality]) &&
+    return checkTile(screen, parameters_.qualities[quality]) &&
            (screens_.try_emplace({paperClass, quality, plane}, screen).second ||
             fail("this class, quality and plane has a screen already"));
   }
 
+  bool readLattice(Fields fields, Lattice& lattice) {
+    double u = 0.0;
+    double v = 0.0;
+    if (!readNumber("period", fields[0], 1, kLargestPeriod, lattice.n) ||
+        !readNumber("A", fields[1], -kLargestPeriod, kLargestPeriod, lattice.a) ||
+        !readNumber("B", fields[2], -kLargestPeriod, kLargestPeriod, lattice.b) ||
+        !readNumber("C", fields[3], -kLargestPeriod, kLargestPeriod, lattice.c) ||
+        !readNumber("D", fields[4], -kLargestPeriod, kLargestPeriod, lattice.d) ||
+        !readNumber("phase", fields[5], 0.0, 0.999, u) ||
+        !readNumber("phase", fields[6], 0.0, 0.999, v)) {
+      return false;
+    }
+    lattice.phaseU = static_cast<int>(std::lround(u * 1000.0));
+    lattice.phaseV = static_cast<int>(std::lround(v * 1000.0));
+    return true;
+  }
+
+  bool readGrowth(Fields fields, GrowthRule& growth) {
+    return readNumber("evenness", fields[0], 0.0, 100.0, growth.evenness) &&
+           readNumber("reach", fields[1], 0.1, 10.0, growth.crowding) &&
+           readShape(fields.subspan(2, 3), growth.dots) &&
+           readShape(fields.subspan(5, 3), growth.holes) &&
+           readNumber("least dot", fields[8], 1, 16, growth.leastDot) &&
+           readNumber("least hole", fields[9], 1, 16, growth.leastHole);
+  }
+
+  bool readShape(Fields fields, SpotShape& shape) {
+    return readNumber("ellipse", fields[0], 0.0, 1.0, shape.ellipse) &&
+           readNumber("roundness", fields[1], -1.0, 1.0, shape.roundness) &&
+           readNumber("pairs", fields[2], -1.0, 1.0, shape.pairs);
+  }
+
   // 255 levels need as many units above blank, and a file should stay small.
-  bool checkTile(const Lattice& lattice, const Quality& quality) {
+  bool checkTile(const ScreenParameters& screen, const Quality& quality) {
+    const Lattice& lattice = screen.lattice;
     if (lattice.determinant() == 0) {
       return fail("A D - B C is 0: these are no two directions");
     }
@@ -251,31 +254,30 @@ class Reader {
       return fail("a cell has less than 4 pixels");
     }
     const Tile smallest = smallestTile(lattice);
-    const double doublings = static_cast<double>(quality.leastCells) / cellsIn(lattice, smallest);
+    const double doublings = static_cast<double>(screen.leastCells) / cellsIn(lattice, smallest);
     if (smallest.pixels() > kMostPixels || smallest.pixels() * doublings > kMostPixels) {
       return fail("the tile has more than " + std::to_string(kMostPixels) + " pixels");
     }
-    const Tile tile = tileWithCells(lattice, quality.leastCells);
+    const Tile tile = tileWithCells(lattice, screen.leastCells);
     const int units = tile.pixels() * ((1 << quality.depth) - 1);
     if (tile.pixels() > kMostPixels) {
       return fail("the tile has more than " + std::to_string(kMostPixels) + " pixels");
     }
-    return units >= kLevels - 1 || fail("the tile has only " + std::to_string(units) +
-                                        " units of output, fewer than the 255 levels");
+    if (units < kLevels - 1) {
+      return fail("the tile has only " + std::to_string(units) +
+                  " units of output, fewer than the 255 levels");
+    }
+    const bool paired = screen.growth.dots.pairs != 0.0 || screen.growth.holes.pairs != 0.0;
+    return !paired || holdsPairs(lattice, tile) ||
+           fail("the tile holds no whole pairs of cells: PAIRS has to be 0");
   }
 
-  struct Phase {
-    std::string name;
-    int u = 0;
-    int v = 0;
-  };
   using Place = std::array<std::size_t, 3>;  // class, quality, plane
 
   int line_ = 0;
   std::string problem_;
   std::set<std::string> names_;
   std::vector<int> classLines_;
-  std::vector<Phase> phases_;
   std::map<Place, ScreenParameters> screens_;
   Parameters parameters_;
 };

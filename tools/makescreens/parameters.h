@@ -23,8 +23,7 @@ constexpr std::array<std::string_view, 5> kPlanes = {"cyan", "magenta", "yellow"
 
 struct Quality {
   std::string name;
-  int depth = 1;       // bits of output per pixel: 1, 2, 4 or 8
-  int leastCells = 1;  // that a tile holds
+  int depth = 1;  // bits of output per pixel: 1, 2, 4 or 8
 };
 
 struct PaperClass {
@@ -47,7 +46,9 @@ struct Variation {
 
 struct ScreenParameters {
   Lattice lattice;
+  int leastCells = 1;     // that the tile holds
   double softEdge = 0.0;  // 0 to 1
+  GrowthRule growth;
 };
 
 struct Parameters {
@@ -55,7 +56,6 @@ struct Parameters {
   std::vector<PaperClass> classes;
   std::vector<Paper> papers;
   std::array<GrowthStart, kPlanes.size()> starts;
-  GrowthRule growth;
   Variation variation;
   // One for each class, quality and plane.
   std::vector<ScreenParameters> screens;

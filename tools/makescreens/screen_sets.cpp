@@ -67,10 +67,10 @@ std::string makeScreen(const Parameters& parameters, std::size_t paperClass, std
   const Quality& words = parameters.qualities[quality];
   const PaperClass& paper = parameters.classes[paperClass];
   const int steps = (1 << words.depth) - 1;
-  const Tile tile = tileWithCells(screen.lattice, words.leastCells);
+  const Tile tile = tileWithCells(screen.lattice, screen.leastCells);
   const auto pixels = static_cast<std::size_t>(tile.pixels());
-  const std::vector<std::uint32_t> order = growthOrder(
-      screen.lattice, tile, steps, screen.softEdge, parameters.growth, parameters.starts.at(plane));
+  const std::vector<std::uint32_t> order = growthOrder(screen.lattice, tile, steps, screen.softEdge,
+                                                       screen.growth, parameters.starts.at(plane));
 
   const std::array<PrintModel, 3> models = {
       PrintModel(varied(paper.model, parameters.variation, -1.0), tile, steps),

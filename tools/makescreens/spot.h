@@ -18,7 +18,7 @@ constexpr std::int64_t kWholeCell = std::int64_t{1} << 24;
 // cos((U+V)/2), angles in turns of a cell: high inside dots, low inside holes.
 struct SpotShape {
   double ellipse = 1.0;    // below 1 dots join to chains along V before the chains join
-  double roundness = 0.0;  // above 0 dots join later and holes part earlier
+  double roundness = 0.0;  // above 0 dots join, and holes part, in darker tones
   double pairs = 0.0;      // how much every second dot, and hole, is larger than its neighbours
 };
 

@@ -10,7 +10,7 @@
 namespace gdi::makescreens {
 namespace {
 
-constexpr std::size_t kSamples = 96;
+constexpr std::size_t kSamples = 240;
 constexpr int kSmoothings = 3;
 
 // The printed curve at kSamples + 1 evenly spaced counts of units, smoothed, from 0 to 1, rising.

@@ -119,7 +119,7 @@ double LaserEngine::sensitivity(const Exposure& exposure) const {
   return sum / softness_ / static_cast<double>(exposure.size());
 }
 
-// The share of toner at a point of that exposure: the logistic function, between its table's steps.
+// The logistic function, between its table's steps.
 double LaserEngine::toner(double exposure) const {
   const double distance = (exposure - threshold_) / softness_;
   if (distance <= -kFarFromThreshold || distance >= kFarFromThreshold) {

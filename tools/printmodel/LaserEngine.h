@@ -36,9 +36,10 @@ class LaserEngine {
   // By how much the tile's mean coverage grows with the logarithm of the exposure.
   [[nodiscard]] double sensitivity(const Exposure& exposure) const;
 
- private:
+  // The share of toner at a point of that exposure.
   [[nodiscard]] double toner(double exposure) const;
 
+ private:
   double threshold_;
   double softness_;
   std::vector<double> across_;  // exposure by pulse value, pixel offset and point in the pixel

@@ -6,7 +6,6 @@
 #include <cmath>
 #include <vector>
 
-#include "tools/printmodel/PaperLight.h"
 #include "tools/screenquality/Spectrum.h"
 #include "tools/screenquality/colour.h"
 #include "tools/screenquality/eye.h"
@@ -15,15 +14,6 @@
 
 namespace gdi::screenquality {
 namespace {
-
-constexpr int kSide = 512;  // pixels across and down that a patch is looked at
-constexpr Tile kField{kSide, kSide};
-
-struct Shift {
-  int x = 0;
-  int y = 0;
-};
-using Shifts = std::array<Shift, 4>;
 
 // How the planes lie, the same in every run (a linear congruence of 32 bits).
 std::vector<Shifts> shiftsOf(int registrations) {
@@ -51,46 +41,6 @@ double meanOf(std::span<const double> values) {
   }
   return sum / static_cast<double>(values.size());
 }
-
-class PatchPrinter {
- public:
-  PatchPrinter(const PrintedPlanes& planes, const Conditions& conditions)
-      : planes_(planes), light_(conditions.paper.spread) {}
-
-  // The light of one channel that comes back from the patch, pixel by pixel.
-  [[nodiscard]] std::vector<double> channel(const Patch& patch, const Shifts& shifts,
-                                            std::size_t rgb) const {
-    std::vector<double> passed(kField.size(), 1.0);
-    for (std::size_t plane = 0; plane < planes_.size(); ++plane) {
-      if (patch.at(plane) > 0) {
-        cover(passed, plane, patch.at(plane), shifts.at(plane), kInks.at(plane).at(rgb));
-      }
-    }
-    return light_.reflectance(kField, passed);
-  }
-
- private:
-  void cover(std::vector<double>& passed, std::size_t plane, std::size_t level, const Shift& shift,
-             double solid) const {
-    const Tile& tile = planes_.at(plane)->screen().tile;
-    const std::vector<double> through =
-        printmodel::transmissionOf(planes_.at(plane)->coverage(level), solid);
-    std::vector<double> line(kSide);
-    for (int y = 0; y < kSide; ++y) {
-      const double* row = &through[static_cast<std::size_t>((y + shift.y) % tile.height) *
-                                   static_cast<std::size_t>(tile.width)];
-      int column = shift.x % tile.width;
-      double* to = &passed[static_cast<std::size_t>(y) * kSide];
-      for (int x = 0; x < kSide; ++x) {
-        to[x] *= row[column];
-        column = column + 1 == tile.width ? 0 : column + 1;
-      }
-    }
-  }
-
-  const PrintedPlanes& planes_;
-  printmodel::PaperLight light_;
-};
 
 // The noise of the planes' exposure in a patch, as the eye sees it: each plane's toner varies on
 // its own and is seen through the others.
@@ -123,6 +73,68 @@ double noiseVariance(const PrintedPlanes& planes, const Conditions& conditions, 
   return variance;
 }
 
+using PatchLight = std::array<std::vector<double>, 3>;  // red, green, blue
+
+struct Variances {
+  double pattern = 0.0;
+  double coarse = 0.0;
+};
+
+// What an eye sees of a patch's unevenness.
+class PatchEye {
+ public:
+  explicit PatchEye(double inches)
+      : lightness_(lightnessSight(kPatchField, inches)),
+        chroma_(chromaSight(kPatchField, inches)),
+        coarseLightness_(coarseSight(kPatchField, lightness_)),
+        coarseChroma_(coarseSight(kPatchField, chroma_)) {}
+
+  // The variances of L*, a* and b*, added up.
+  Variances variancesSeen(const PatchLight& light, const Rgb& mean) {
+    static const std::vector<double> window = hannWindow(kPatchSide);
+    const auto slopes = labSlopes(mean);
+    std::vector<double> error(kPatchField.size());
+    Variances sum;
+    for (std::size_t lab = 0; lab < 3; ++lab) {
+      const auto& slope = slopes.at(lab);
+      for (std::size_t i = 0; i < error.size(); ++i) {
+        error[i] =
+            window[i] * (slope[0] * (light[0][i] - mean[0]) + slope[1] * (light[1][i] - mean[1]) +
+                         slope[2] * (light[2][i] - mean[2]));
+      }
+      const auto [pattern, coarse] =
+          lab == 0 ? spectrum_.variancesSeen(error, lightness_, coarseLightness_)
+                   : spectrum_.variancesSeen(error, chroma_, coarseChroma_);
+      sum.pattern += pattern;
+      sum.coarse += coarse;
+    }
+    return sum;
+  }
+
+ private:
+  Spectrum spectrum_{kPatchField};
+  Sight lightness_;
+  Sight chroma_;
+  Sight coarseLightness_;
+  Sight coarseChroma_;
+};
+
+// The colours' squared distances from their mean, added up.
+double squaredDistances(std::span<const Lab> colours) {
+  double total = 0.0;
+  for (std::size_t lab = 0; lab < 3; ++lab) {
+    double sum = 0.0;
+    for (const Lab& colour : colours) {
+      sum += colour.at(lab);
+    }
+    const double mean = sum / static_cast<double>(colours.size());
+    for (const Lab& colour : colours) {
+      total += (colour.at(lab) - mean) * (colour.at(lab) - mean);
+    }
+  }
+  return total;
+}
+
 }  // namespace
 
 const std::array<Patch, 12> kPatches{{
@@ -142,24 +154,17 @@ const std::array<Patch, 12> kPatches{{
 
 Superposition superpositionOf(const PrintedPlanes& planes, const Conditions& conditions,
                               std::span<const Patch> patches, int registrations) {
-  static const std::vector<double> window = hannWindow(kSide);
-  const Sight lightnessShare = lightnessSight(kField, conditions.inches);
-  const Sight chromaShare = chromaSight(kField, conditions.inches);
-  const Sight coarseLightness = coarseSight(kField, lightnessShare);
-  const Sight coarseChroma = coarseSight(kField, chromaShare);
+  const PatchPrinter printer(planes, conditions.paper.spread);
   const NoiseSeen noise = noiseSeen(conditions.noiseCorrelation, conditions.inches);
-  const PatchPrinter printer(planes, conditions);
   const std::vector<Shifts> all = shiftsOf(registrations);
-  Spectrum spectrum(kField);
-
-  double patternSquares = 0.0;
-  double coarseSquares = 0.0;
+  PatchEye eye(conditions.inches);
+  Variances sum;
   double noiseSquares = 0.0;
   double registrationSquares = 0.0;
   for (const Patch& patch : patches) {
     std::vector<Lab> colours;
     for (const Shifts& shifts : all) {
-      std::array<std::vector<double>, 3> light;
+      PatchLight light;
       Rgb mean{};
       for (std::size_t rgb = 0; rgb < 3; ++rgb) {
         light.at(rgb) = printer.channel(patch, shifts, rgb);
@@ -167,37 +172,14 @@ Superposition superpositionOf(const PrintedPlanes& planes, const Conditions& con
       }
       colours.push_back(labOf(mean));
       noiseSquares += noiseVariance(planes, conditions, patch, mean, noise);
-      const auto slopes = labSlopes(mean);
-      std::vector<double> error(kField.size());
-      for (std::size_t lab = 0; lab < 3; ++lab) {
-        const auto& slope = slopes.at(lab);
-        for (std::size_t i = 0; i < error.size(); ++i) {
-          error[i] =
-              window[i] * (slope[0] * (light[0][i] - mean[0]) + slope[1] * (light[1][i] - mean[1]) +
-                           slope[2] * (light[2][i] - mean[2]));
-        }
-        const auto [pattern, coarse] =
-            lab == 0 ? spectrum.variancesSeen(error, lightnessShare, coarseLightness)
-                     : spectrum.variancesSeen(error, chromaShare, coarseChroma);
-        patternSquares += pattern;
-        coarseSquares += coarse;
-      }
+      const Variances seen = eye.variancesSeen(light, mean);
+      sum.pattern += seen.pattern;
+      sum.coarse += seen.coarse;
     }
-    for (std::size_t lab = 0; lab < 3; ++lab) {
-      double sum = 0.0;
-      double squares = 0.0;
-      for (const Lab& colour : colours) {
-        sum += colour.at(lab);
-      }
-      const double mean = sum / static_cast<double>(colours.size());
-      for (const Lab& colour : colours) {
-        squares += (colour.at(lab) - mean) * (colour.at(lab) - mean);
-      }
-      registrationSquares += squares;
-    }
+    registrationSquares += squaredDistances(colours);
   }
   const double count = static_cast<double>(patches.size()) * registrations;
-  return {std::sqrt(patternSquares / count), std::sqrt(coarseSquares / count),
+  return {std::sqrt(sum.pattern / count), std::sqrt(sum.coarse / count),
           std::sqrt(noiseSquares / count), std::sqrt(registrationSquares / count)};
 }
 

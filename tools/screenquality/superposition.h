@@ -10,12 +10,9 @@
 #include <span>
 
 #include "tools/screenquality/Conditions.h"
-#include "tools/screenquality/PrintedScreen.h"
+#include "tools/screenquality/PatchPrinter.h"
 
 namespace gdi::screenquality {
-
-// The levels of cyan, magenta, yellow and black of a flat colour.
-using Patch = std::array<std::uint8_t, 4>;
 
 // Neutrals of three and four inks, two-colour tints, skin.
 extern const std::array<Patch, 12> kPatches;
@@ -30,8 +27,6 @@ struct Superposition {
   double noise = 0.0;
   double registration = 0.0;  // how far the mean colour wanders
 };
-
-using PrintedPlanes = std::array<const PrintedScreen*, 4>;
 
 Superposition superpositionOf(const PrintedPlanes& planes, const Conditions& conditions,
                               std::span<const Patch> patches = kPatches,

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The rasterToGDI authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "tools/gdiview/PngFile.h"
+#include "tools/png/PngFile.h"
 
 #include <cerrno>
 #include <csetjmp>
@@ -9,12 +9,30 @@
 
 #include <unistd.h>
 
-namespace gdi::gdiview {
+namespace gdi {
 
 namespace {
 
 // Halftones are full of repetition: more effort than this costs time and saves little.
 constexpr int kCompressionLevel = 3;
+// Pictures with a palette are few and kept.
+constexpr int kPaletteCompressionLevel = 9;
+constexpr std::size_t kColoursOfHalfAByte = 16;
+
+int colourTypeOf(const PngLayout& layout) {
+  if (!layout.palette.empty()) {
+    return PNG_COLOR_TYPE_PALETTE;
+  }
+  return layout.channels == 1 ? PNG_COLOR_TYPE_GRAY : PNG_COLOR_TYPE_RGB;
+}
+
+std::vector<png_color> paletteOf(const PngLayout& layout) {
+  std::vector<png_color> palette;
+  for (const PngColour& colour : layout.palette) {
+    palette.push_back({colour.red, colour.green, colour.blue});
+  }
+  return palette;
+}
 
 }  // namespace
 
@@ -58,9 +76,12 @@ PngFile::~PngFile() {
   errno = error;
 }
 
-// libpng leaves a failed call with longjmp, past no object with a destructor in the three below.
+// libpng leaves a failed call with longjmp, to a place behind the objects with destructors in the
+// three below.
 // NOLINTBEGIN(cert-err52-cpp): libpng knows no other way to report an error.
 bool PngFile::writeHeader(const PngLayout& layout) {
+  const std::vector<png_color> palette = paletteOf(layout);
+  const bool halfBytes = !palette.empty() && palette.size() <= kColoursOfHalfAByte;
   // libpng's messages are dropped: errno tells the person more.
   png_ = png_create_write_struct(
       PNG_LIBPNG_VER_STRING, nullptr, [](png_structp png, png_const_charp) { png_longjmp(png, 1); },
@@ -75,13 +96,16 @@ bool PngFile::writeHeader(const PngLayout& layout) {
   }
   png_init_io(png_, file_);
   png_set_user_limits(png_, PNG_UINT_31_MAX, PNG_UINT_31_MAX);
-  png_set_IHDR(png_, info_, layout.width, layout.height, 8,
-               layout.channels == 1 ? PNG_COLOR_TYPE_GRAY : PNG_COLOR_TYPE_RGB, PNG_INTERLACE_NONE,
-               PNG_COMPRESSION_TYPE_DEFAULT, PNG_FILTER_TYPE_DEFAULT);
+  png_set_IHDR(png_, info_, layout.width, layout.height, halfBytes ? 4 : 8, colourTypeOf(layout),
+               PNG_INTERLACE_NONE, PNG_COMPRESSION_TYPE_DEFAULT, PNG_FILTER_TYPE_DEFAULT);
   png_set_pHYs(png_, info_, layout.samplesPerMetre, layout.samplesPerMetre, PNG_RESOLUTION_METER);
-  png_set_compression_level(png_, kCompressionLevel);
+  if (!palette.empty()) {
+    png_set_PLTE(png_, info_, palette.data(), static_cast<int>(palette.size()));
+  }
+  png_set_compression_level(png_, palette.empty() ? kCompressionLevel : kPaletteCompressionLevel);
   png_set_filter(png_, PNG_FILTER_TYPE_BASE, PNG_FILTER_NONE);
   png_write_info(png_, info_);
+  png_set_packing(png_);
   return true;
 }
 
@@ -104,4 +128,4 @@ bool PngFile::finish() {
 }
 // NOLINTEND(cert-err52-cpp)
 
-}  // namespace gdi::gdiview
+}  // namespace gdi

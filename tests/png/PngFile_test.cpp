@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The rasterToGDI authors
 // SPDX-License-Identifier: Apache-2.0
 
+#include "tools/png/PngFile.h"
+
 #include <cerrno>
 #include <csignal>
 #include <cstdlib>
@@ -11,9 +13,7 @@
 #include <gtest/gtest.h>
 #include <sys/resource.h>
 
-#include "tools/gdiview/PngFile.h"
-
-namespace gdi::gdiview {
+namespace gdi {
 namespace {
 
 // A disk that is full after so many bytes of a file: the system refuses more with EFBIG.
@@ -58,6 +58,50 @@ TEST_F(PngFileOnDisk, AFinishedPictureStays) {
   EXPECT_TRUE(file->finish());
   file.reset();
   EXPECT_TRUE(std::filesystem::exists(picture_));
+}
+
+// As libpng's plain reader sees it.
+std::vector<std::uint8_t> coloursOf(const std::filesystem::path& path) {
+  png_image image{};
+  image.version = PNG_IMAGE_VERSION;
+  std::vector<std::uint8_t> samples;
+  if (png_image_begin_read_from_file(&image, path.c_str()) != 0) {
+    image.format = PNG_FORMAT_RGB;
+    samples.resize(PNG_IMAGE_SIZE(image));
+    (void)png_image_finish_read(&image, nullptr, samples.data(), 0, nullptr);
+  }
+  png_image_free(&image);
+  return samples;
+}
+
+// Bits a sample and the colour type stand behind the signature, the first chunk's head, and the
+// picture's width and height.
+std::vector<int> formOf(const std::filesystem::path& path) {
+  std::ifstream file(path, std::ios::binary);
+  file.seekg(8 + 8 + 8);
+  const int bits = file.get();
+  return {bits, file.get()};
+}
+
+TEST_F(PngFileOnDisk, SixteenColoursTakeHalfAByteASample) {
+  const PngLayout layout{3, 1, 1, 3780, {{1, 2, 3}, {40, 50, 60}, {255, 254, 253}}};
+  std::unique_ptr<PngFile> file = PngFile::create(picture_, layout);
+  ASSERT_NE(file, nullptr);
+  EXPECT_TRUE(file->writeRow(std::vector<std::uint8_t>{2, 0, 1}));
+  EXPECT_TRUE(file->finish());
+  EXPECT_EQ(formOf(picture_), (std::vector<int>{4, PNG_COLOR_TYPE_PALETTE}));
+  EXPECT_EQ(coloursOf(picture_), (std::vector<std::uint8_t>{255, 254, 253, 1, 2, 3, 40, 50, 60}));
+}
+
+TEST_F(PngFileOnDisk, MoreColoursTakeAByteASample) {
+  PngLayout layout{1, 1, 1, 3780, std::vector<PngColour>(17)};
+  layout.palette.back() = {7, 8, 9};
+  std::unique_ptr<PngFile> file = PngFile::create(picture_, layout);
+  ASSERT_NE(file, nullptr);
+  EXPECT_TRUE(file->writeRow(std::vector<std::uint8_t>{16}));
+  EXPECT_TRUE(file->finish());
+  EXPECT_EQ(formOf(picture_), (std::vector<int>{8, PNG_COLOR_TYPE_PALETTE}));
+  EXPECT_EQ(coloursOf(picture_), (std::vector<std::uint8_t>{7, 8, 9}));
 }
 
 TEST_F(PngFileOnDisk, APictureThatIsGivenUpIsRemoved) {
@@ -166,4 +210,4 @@ TEST_F(PngFileOnDisk, ADiskThatIsFullAtTheEndLeavesNoHalfPicture) {
 }
 
 }  // namespace
-}  // namespace gdi::gdiview
+}  // namespace gdi

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The rasterToGDI authors
 // SPDX-License-Identifier: Apache-2.0
 
-// One PNG file, 8 bits a sample, written row by row. It has its name only once it is finished, and
+// One PNG file, a byte a sample, written row by row. It has its name only once it is finished, and
 // an older file of that name stays until then; what is not finished is removed.
 #pragma once
 
@@ -10,16 +10,27 @@
 #include <filesystem>
 #include <memory>
 #include <span>
+#include <vector>
 
 #include <png.h>
 
-namespace gdi::gdiview {
+namespace gdi {
+
+struct PngColour {
+  std::uint8_t red = 0;
+  std::uint8_t green = 0;
+  std::uint8_t blue = 0;
+  bool operator==(const PngColour&) const = default;
+};
 
 struct PngLayout {
   std::uint32_t width = 0;     // samples, > 0
   std::uint32_t height = 0;    // rows, > 0
   std::uint32_t channels = 1;  // 1 = grey, 3 = RGB
   std::uint32_t samplesPerMetre = 0;
+  // At most 256 colours. When there are any, samples are places in this list and channels is 1;
+  // lists of 16 take half a byte a sample in the file, which is then also packed harder.
+  std::vector<PngColour> palette = {};
 };
 
 class PngFile {
@@ -36,8 +47,8 @@ class PngFile {
   PngFile(PngFile&&) = delete;
   PngFile& operator=(PngFile&&) = delete;
 
-  // The next row, width x channels bytes. False when it cannot be written; nothing more may be
-  // written then.
+  // The next row, width x channels bytes, in a palette places that it has. False when it cannot be
+  // written; nothing more may be written then.
   bool writeRow(std::span<const std::uint8_t> row);
   // Ends the file after its last row and gives it its name. False when that cannot be done, or not
   // all of it could be written.
@@ -55,4 +66,4 @@ class PngFile {
   bool finished_ = false;
 };
 
-}  // namespace gdi::gdiview
+}  // namespace gdi
