@@ -3,6 +3,8 @@
 
 #include "tools/screenquality/robustness.h"
 
+#include <algorithm>
+#include <array>
 #include <sstream>
 
 #include <gtest/gtest.h>
@@ -17,13 +19,15 @@ TEST(Robustness, OneThingIsChangedAtATime) {
   const std::vector<OtherConditions> all = otherConditions(nominal);
   ASSERT_EQ(all.size(), 10U);
   const auto changes = [&](const Conditions& other) {
-    return int{other.paper.spot != nominal.paper.spot} +
-           int{other.paper.threshold != nominal.paper.threshold} +
-           int{other.paper.softness != nominal.paper.softness} +
-           int{other.paper.spread != nominal.paper.spread} +
-           int{other.paper.solid != nominal.paper.solid} + int{other.noise != nominal.noise} +
-           int{other.noiseCorrelation != nominal.noiseCorrelation} +
-           int{other.inches != nominal.inches} + int{other.gain != nominal.gain};
+    return std::ranges::count(
+        std::array{other.paper.spot != nominal.paper.spot,
+                   other.paper.threshold != nominal.paper.threshold,
+                   other.paper.softness != nominal.paper.softness,
+                   other.paper.spread != nominal.paper.spread,
+                   other.paper.solid != nominal.paper.solid, other.noise != nominal.noise,
+                   other.noiseCorrelation != nominal.noiseCorrelation,
+                   other.inches != nominal.inches, other.gain != nominal.gain},
+        true);
   };
   EXPECT_EQ(changes(all[0].conditions), 0);
   for (std::size_t i = 1; i < all.size(); ++i) {

@@ -37,6 +37,7 @@ const std::array<Conditions, 3> kPaperClasses{{
 
 std::vector<std::string_view> paperTypes() {
   std::vector<std::string_view> types;
+  types.reserve(kPaperTypes.size());
   for (const auto& [name, index] : kPaperTypes) {
     types.push_back(name);
   }

@@ -28,7 +28,7 @@ struct Spectrum::Plans {
 Spectrum::Spectrum(const Tile& field)
     : field_(field),
       values_(field.size()),
-      waves_(static_cast<std::size_t>(field.width / 2 + 1) *
+      waves_((static_cast<std::size_t>(field.width) / 2 + 1) *
              static_cast<std::size_t>(field.height)),
       plans_(std::make_unique<Plans>()) {
   const std::lock_guard alone(planning());
@@ -64,7 +64,7 @@ std::array<double, 2> Spectrum::variancesSeen(std::span<const double> field,
 }
 
 double Spectrum::varianceOfWaves(std::span<const double> shares) const {
-  const auto columns = static_cast<std::size_t>(field_.width / 2 + 1);
+  const auto columns = static_cast<std::size_t>(field_.width) / 2 + 1;
   double sum = 0.0;
   for (std::size_t i = 1; i < waves_.size(); ++i) {
     const std::size_t column = i % columns;

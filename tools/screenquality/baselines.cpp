@@ -67,7 +67,7 @@ UnitOrder dispersed(const std::vector<std::uint32_t>& pixels, int steps) {
 
 FourScreens bayer(int steps, const PaperModel& /*paper*/, double /*gain*/) {
   constexpr unsigned kSide = 16;
-  std::vector<std::uint32_t> order(kSide * kSide);
+  std::vector<std::uint32_t> order(std::size_t{kSide} * kSide);
   for (unsigned y = 0; y < kSide; ++y) {
     for (unsigned x = 0; x < kSide; ++x) {
       unsigned rank = 0;

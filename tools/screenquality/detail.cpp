@@ -70,7 +70,8 @@ void drawStrokes(Drawing& drawing) {
   constexpr int kTints[] = {255, 150, 80};  // NOLINT: a short list
   for (int stroke = 0; stroke < kStrokes; ++stroke) {
     const double angle = std::numbers::pi * stroke / kStrokes;
-    const double half = 1.0 + 0.5 * (stroke / 2);
+    const int widening = stroke / 2;
+    const double half = 1.0 + 0.5 * widening;
     const double offset = (stroke % 3 - 1) * 20.0;
     for (int y = 0; y < kQuarter; ++y) {
       for (int x = 0; x < kQuarter; ++x) {
@@ -125,8 +126,9 @@ double detailLoss(const PrintedScreen& print, const Conditions& conditions) {
   for (int y = 0; y < kDetailSide; ++y) {
     for (int x = 0; x < kDetailSide; ++x) {
       const std::size_t level = image[values.size()];
-      const std::size_t place = static_cast<std::size_t>(
-          y % screen.tile.height * screen.tile.width + x % screen.tile.width);
+      const std::size_t place =
+          printmodel::wrapped(y, screen.tile.height) * static_cast<std::size_t>(screen.tile.width) +
+          printmodel::wrapped(x, screen.tile.width);
       values.push_back(screen.level(level)[place]);
       wanted.push_back(print.reflectance(level));
     }
@@ -152,7 +154,7 @@ double detailLoss(std::span<const std::uint8_t> values, int steps, std::span<con
   std::size_t count = 0;
   for (int y = kBorder; y < kDetailSide - kBorder; ++y) {
     for (int x = kBorder; x < kDetailSide - kBorder; ++x) {
-      const auto i = static_cast<std::size_t>(y * kDetailSide + x);
+      const auto i = static_cast<std::size_t>(y) * kDetailSide + static_cast<std::size_t>(x);
       const double difference =
           lightness(std::max(printed[i], 0.0)) - lightness(std::max(ideal[i], 0.0));
       squares += difference * difference;

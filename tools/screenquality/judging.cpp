@@ -86,9 +86,9 @@ Quality qualityOf(const ScreenSet& set, const Conditions& conditions) {
 }
 
 Quality qualityOf(const FourScreens& screens, bool colour, const Conditions& conditions) {
-  return colour
-             ? colourQuality({&screens[0], &screens[1], &screens[2], &screens[kBlack]}, conditions)
-             : monoQuality(screens[kBlack], conditions);
+  const auto& [cyan, magenta, yellow, black] = screens;
+  return colour ? colourQuality({&cyan, &magenta, &yellow, &black}, conditions)
+                : monoQuality(black, conditions);
 }
 
 std::int64_t repeatOf(const ScreenSet& set) {
@@ -114,8 +114,12 @@ std::vector<MadeBaseline> baselinesFor(std::span<const ScreenSet> sets) {
   }
   inParallel(made.size(), [&](std::size_t i) {
     MadeBaseline& one = made[i];
-    const auto baseline = std::ranges::find(kBaselines, one.name, &Baseline::name);
-    one.screens = baseline->make((1 << one.depth) - 1, one.conditions->paper, one.conditions->gain);
+    for (const Baseline& baseline : kBaselines) {
+      if (baseline.name == one.name) {
+        one.screens =
+            baseline.make((1 << one.depth) - 1, one.conditions->paper, one.conditions->gain);
+      }
+    }
   });
   return made;
 }

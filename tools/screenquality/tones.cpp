@@ -70,6 +70,7 @@ double curveError(const PrintedScreen& print) {
     paper.threshold += printer.threshold;
     const printmodel::LaserEngine engine(paper, print.screen().steps);
     std::vector<double> printed;
+    printed.reserve(kJudgedLevels.size());
     for (const std::size_t level : kJudgedLevels) {
       printed.push_back(lightness(reflectanceOf(print.screen(), engine, paper, level, 1.0)));
     }

@@ -4,12 +4,14 @@
 #include "tools/screenquality/window.h"
 
 #include <cmath>
+#include <cstddef>
 #include <numbers>
 
 namespace gdi::screenquality {
 
 std::vector<double> hannWindow(int side) {
   std::vector<double> line;
+  line.reserve(static_cast<std::size_t>(side));
   for (int i = 0; i < side; ++i) {
     line.push_back((1.0 - std::cos(2.0 * std::numbers::pi * (i + 0.5) / side)) *
                    std::sqrt(2.0 / 3.0));
