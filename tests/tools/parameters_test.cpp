@@ -92,9 +92,10 @@ TEST(Parameters, AScreenSaysHowItsDotsAndItsHolesGrow) {
 
 TEST(Parameters, VariationMayBeStated) {
   std::string error;
-  const auto read = parseParameters("variation 0.08 0.04\n" + std::string(kGood), "x", error);
+  const auto read = parseParameters("variation 0.08 0.04 0.12\n" + std::string(kGood), "x", error);
   ASSERT_TRUE(read.has_value()) << error;
   EXPECT_DOUBLE_EQ(read->variation.threshold, 0.04);
+  EXPECT_DOUBLE_EQ(read->variation.softness, 0.12);
 }
 
 TEST(Parameters, AnUnknownKeywordIsRefusedWithItsLine) {

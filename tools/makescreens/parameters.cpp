@@ -36,7 +36,7 @@ class Reader {
     static constexpr std::array<Form, 6> kForms{{
         {"quality", "NAME DEPTH", &Reader::readQuality},
         {"start", "PLANE X Y", &Reader::readStart},
-        {"variation", "SPOT THRESHOLD", &Reader::readVariation},
+        {"variation", "SPOT THRESHOLD SOFTNESS", &Reader::readVariation},
         {"class", "NAME SPOT THRESHOLD SOFTNESS SPREAD SOLID GAIN", &Reader::readClass},
         {"paper", "NAME CLASS", &Reader::readPaper},
         {"screen",
@@ -164,7 +164,8 @@ class Reader {
   bool readVariation(Fields fields) {
     Variation& variation = parameters_.variation;
     return readNumber("variation", fields[0], 0.0, 0.09, variation.spot) &&
-           readNumber("variation", fields[1], 0.0, 0.04, variation.threshold);
+           readNumber("variation", fields[1], 0.0, 0.04, variation.threshold) &&
+           readNumber("variation", fields[2], 0.0, 0.5, variation.softness);
   }
 
   bool readClass(Fields fields) {

@@ -38,10 +38,11 @@ struct Paper {
 };
 
 // How far printers differ from the papers' models: sharper ones have a smaller spot and need more
-// exposure, softer ones the reverse.
+// exposure, blurred ones the reverse; in others toner follows exposure more gradually.
 struct Variation {
   double spot = 0.0;       // pixels
   double threshold = 0.0;  // share of a solid's exposure
+  double softness = 0.0;   // of the gradual printer; 0: there is none
 };
 
 struct ScreenParameters {

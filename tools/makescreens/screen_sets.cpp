@@ -32,11 +32,18 @@ std::string setEntry(const Parameters& parameters, const Paper& paper, std::size
   return text + "\t\t\t</array>\n\t\t</dict>\n";
 }
 
-// The paper in a sharper (side -1) or softer (side 1) printer.
-PaperModel varied(PaperModel model, const Variation& variation, double side) {
-  model.spot += side * variation.spot;
-  model.threshold -= side * variation.threshold;
-  return model;
+// The paper in the printers that its screens have to serve.
+std::vector<PaperModel> printersFor(const PaperModel& paper, const Variation& variation) {
+  std::vector<PaperModel> printers(3, paper);
+  printers.front().spot -= variation.spot;
+  printers.front().threshold += variation.threshold;
+  printers.back().spot += variation.spot;
+  printers.back().threshold -= variation.threshold;
+  if (variation.softness > 0.0) {
+    printers.push_back(paper);
+    printers.back().softness = variation.softness;
+  }
+  return printers;
 }
 
 }  // namespace
@@ -72,10 +79,10 @@ std::string makeScreen(const Parameters& parameters, std::size_t paperClass, std
   const std::vector<std::uint32_t> order = growthOrder(screen.lattice, tile, steps, screen.softEdge,
                                                        screen.growth, parameters.starts.at(plane));
 
-  const std::array<PrintModel, 3> models = {
-      PrintModel(varied(paper.model, parameters.variation, -1.0), tile, steps),
-      PrintModel(paper.model, tile, steps),
-      PrintModel(varied(paper.model, parameters.variation, 1.0), tile, steps)};
+  std::vector<PrintModel> models;
+  for (const PaperModel& printer : printersFor(paper.model, parameters.variation)) {
+    models.emplace_back(printer, tile, steps);
+  }
   std::vector<std::uint8_t> values(pixels, 0);
   std::size_t grown = 0;
   const auto printedArea = [&](std::size_t units) {
@@ -86,7 +93,7 @@ std::string makeScreen(const Parameters& parameters, std::size_t paperClass, std
     for (const PrintModel& model : models) {
       sum += model.printedArea(values);
     }
-    return sum / models.size();
+    return sum / static_cast<double>(models.size());
   };
   const LevelUnits levels = unitsOfLevels(order.size(), paper.gain, printedArea);
   return screenFile(tile, words.depth, screenTable(pixels, order, levels));

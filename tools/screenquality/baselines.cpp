@@ -83,8 +83,13 @@ FourScreens bayer(int steps, const PaperModel& /*paper*/, double /*gain*/) {
   return {screen, screen, screen, screen};
 }
 
+// A pixel takes all its steps before the next one begins, as dots are grown from thresholds.
 UnitOrder clustered(const Lattice& lattice, const Tile& tile, int steps) {
-  return makescreens::growthOrder(lattice, tile, steps, 0.0, {}, {});
+  UnitOrder order;
+  for (const std::uint32_t pixel : makescreens::growthOrder(lattice, tile, 1, 0.0, {}, {})) {
+    order.insert(order.end(), static_cast<std::size_t>(steps), pixel);
+  }
+  return order;
 }
 
 FourScreens clusteredAt45Degrees(int steps, const PaperModel& paper, double gain) {
