@@ -18,15 +18,15 @@ struct Goal {
 };
 
 constexpr std::array<Goal, 9> kGoals{{
-    {"plain", "Fast", 1.19, 1.23},
-    {"plain", "Standard", 1.03, 1.11},
-    {"plain", "Fine", 1.02, 1.09},
-    {"rough", "Fast", 1.32, 1.56},
-    {"rough", "Standard", 1.19, 1.49},
-    {"rough", "Fine", 1.17, 1.48},
-    {"smooth", "Fast", 1.18, 1.15},
-    {"smooth", "Standard", 1.01, 1.03},
-    {"smooth", "Fine", 0.99, 1.01},
+    {"plain", "Fast", 1.09, 1.18},
+    {"plain", "Standard", 0.91, 1.07},
+    {"plain", "Fine", 0.88, 1.05},
+    {"rough", "Fast", 1.18, 1.48},
+    {"rough", "Standard", 1.04, 1.44},
+    {"rough", "Fine", 1.01, 1.42},
+    {"smooth", "Fast", 1.06, 1.12},
+    {"smooth", "Standard", 0.88, 0.98},
+    {"smooth", "Fine", 0.84, 0.97},
 }};
 
 }  // namespace
