@@ -60,5 +60,14 @@ TEST(ScreenFile, IsATextHeaderAZeroByteAndThePackedTable) {
             std::string("1 1 1 8 1\0"sv) + std::string(16, '\0') + std::string(16, '\xFF'));
 }
 
+TEST(ScreenFile, TellsItsSizeBeforehand) {
+  for (const Tile tile : {Tile{1, 1}, Tile{3, 1}, Tile{12, 112}}) {
+    for (const int depth : {1, 2, 4}) {
+      const Entries table(tile.size() * 256, 0);
+      EXPECT_EQ(screenFileSize(tile, depth), screenFile(tile, depth, table).size());
+    }
+  }
+}
+
 }  // namespace
 }  // namespace gdi::makescreens

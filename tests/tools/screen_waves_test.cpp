@@ -4,7 +4,6 @@
 // The planes of a colour page share no wave: two that do shift the page's colour with every small
 // error of registration.
 
-#include <array>
 #include <cstddef>
 #include <fstream>
 #include <iterator>
@@ -14,39 +13,12 @@
 #include <gtest/gtest.h>
 
 #include "tools/makescreens/parameters.h"
+#include "tools/makescreens/waves.h"
 
 namespace gdi::makescreens {
 namespace {
 
 constexpr std::size_t kColourPlanes = 4;
-
-// A wave (x, y) / n in cycles a pixel.
-struct Wave {
-  int x, y, n;
-};
-
-std::array<Wave, 4> wavesOf(const Lattice& lattice) {
-  const auto& [n, a, b, c, d, phaseU, phaseV] = lattice;
-  return {{{a, b, n}, {c, d, n}, {a + c, b + d, n}, {a - c, b - d, n}}};
-}
-
-// Whether the waves are the same or run against each other.
-bool alike(const Wave& first, const Wave& second) {
-  const int x1 = first.x * second.n, y1 = first.y * second.n;
-  const int x2 = second.x * first.n, y2 = second.y * first.n;
-  return (x1 == x2 && y1 == y2) || (x1 == -x2 && y1 == -y2);
-}
-
-bool shareAWave(const Lattice& first, const Lattice& second) {
-  for (const Wave& one : wavesOf(first)) {
-    for (const Wave& other : wavesOf(second)) {
-      if (alike(one, other)) {
-        return true;
-      }
-    }
-  }
-  return false;
-}
 
 TEST(ScreenWaves, ADiagonalOfOneLatticeMayBeAWaveOfAnother) {
   // (3, 2) + (1, -4) = (4, -2)

@@ -19,6 +19,7 @@ struct GrowthRule {
   SpotShape holes;        // while holes close
   int leastDot = 2;       // pixels that a dot is given before another is begun, at least 1
   int leastHole = 3;      // the same of a hole, seen from solid, at least 1
+  bool operator==(const GrowthRule&) const = default;
 };
 
 // Where growth begins in the tile, as shares of its width and height, 0 <= share < 1.

@@ -25,6 +25,7 @@ struct Lattice {
   [[nodiscard]] int determinant() const { return a * d - b * c; }
   // The area of one cell, in pixels.
   [[nodiscard]] double cellArea() const;
+  bool operator==(const Lattice&) const = default;
 };
 
 // The smallest tile that repeats the lattice.

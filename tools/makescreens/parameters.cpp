@@ -13,13 +13,12 @@
 #include <utility>
 
 #include "tools/makescreens/parameter_text.h"
-#include "tools/makescreens/tone.h"
+#include "tools/makescreens/tile_rules.h"
 
 namespace gdi::makescreens {
 namespace {
 
 constexpr int kLargestPeriod = 64;
-constexpr int kMostPixels = 4096;
 
 using Fields = std::span<const std::string_view>;
 
@@ -245,32 +244,9 @@ class Reader {
            readNumber("pairs", fields[2], -1.0, 1.0, shape.pairs);
   }
 
-  // 255 levels need as many units above blank, and a file should stay small.
   bool checkTile(const ScreenParameters& screen, const Quality& quality) {
-    const Lattice& lattice = screen.lattice;
-    if (lattice.determinant() == 0) {
-      return fail("A D - B C is 0: these are no two directions");
-    }
-    if (lattice.cellArea() < 4.0) {
-      return fail("a cell has less than 4 pixels");
-    }
-    const Tile smallest = smallestTile(lattice);
-    const double doublings = static_cast<double>(screen.leastCells) / cellsIn(lattice, smallest);
-    if (smallest.pixels() > kMostPixels || smallest.pixels() * doublings > kMostPixels) {
-      return fail("the tile has more than " + std::to_string(kMostPixels) + " pixels");
-    }
-    const Tile tile = tileWithCells(lattice, screen.leastCells);
-    const int units = tile.pixels() * ((1 << quality.depth) - 1);
-    if (tile.pixels() > kMostPixels) {
-      return fail("the tile has more than " + std::to_string(kMostPixels) + " pixels");
-    }
-    if (units < kLevels - 1) {
-      return fail("the tile has only " + std::to_string(units) +
-                  " units of output, fewer than the 255 levels");
-    }
-    const bool paired = screen.growth.dots.pairs != 0.0 || screen.growth.holes.pairs != 0.0;
-    return !paired || holdsPairs(lattice, tile) ||
-           fail("the tile holds no whole pairs of cells: PAIRS has to be 0");
+    const std::string problem = tileProblem(screen, quality.depth);
+    return problem.empty() || fail(problem);
   }
 
   using Place = std::array<std::size_t, 3>;  // class, quality, plane

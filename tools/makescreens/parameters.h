@@ -50,6 +50,7 @@ struct ScreenParameters {
   int leastCells = 1;     // that the tile holds
   double softEdge = 0.0;  // 0 to 1
   GrowthRule growth;
+  bool operator==(const ScreenParameters&) const = default;
 };
 
 struct Parameters {

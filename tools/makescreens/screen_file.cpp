@@ -6,6 +6,17 @@
 #include <algorithm>
 
 namespace gdi::makescreens {
+namespace {
+
+// With the zero byte.
+std::string headerOf(const Tile& tile, int depth) {
+  std::string header = "1 " + std::to_string(tile.width) + ' ' + std::to_string(tile.height) +
+                       " 8 " + std::to_string(depth);
+  header.push_back('\0');
+  return header;
+}
+
+}  // namespace
 
 std::vector<std::uint8_t> screenTable(std::size_t pixels, std::span<const std::uint32_t> order,
                                       const LevelUnits& levelUnits) {
@@ -44,10 +55,12 @@ std::string packed(std::span<const std::uint8_t> entries, int depth) {
 }
 
 std::string screenFile(const Tile& tile, int depth, std::span<const std::uint8_t> table) {
-  std::string file = "1 " + std::to_string(tile.width) + ' ' + std::to_string(tile.height) + " 8 " +
-                     std::to_string(depth);
-  file.push_back('\0');
-  return file + packed(table, depth);
+  return headerOf(tile, depth) + packed(table, depth);
+}
+
+std::size_t screenFileSize(const Tile& tile, int depth) {
+  const std::size_t bits = tile.size() * kLevels * static_cast<std::size_t>(depth);
+  return headerOf(tile, depth).size() + (bits + 7) / 8;
 }
 
 }  // namespace gdi::makescreens

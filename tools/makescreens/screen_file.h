@@ -4,6 +4,7 @@
 // The bytes of a screen file: a short text header, a zero byte, and a packed table of outputs.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <span>
 #include <string>
@@ -24,5 +25,8 @@ std::string packed(std::span<const std::uint8_t> entries, int depth);
 
 // The whole file. Requires: 256 entries for each pixel of the tile.
 std::string screenFile(const Tile& tile, int depth, std::span<const std::uint8_t> table);
+
+// The bytes that the file of such a tile has.
+std::size_t screenFileSize(const Tile& tile, int depth);
 
 }  // namespace gdi::makescreens

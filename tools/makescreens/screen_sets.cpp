@@ -4,17 +4,12 @@
 #include "tools/makescreens/screen_sets.h"
 
 #include <array>
-#include <cstdint>
-#include <vector>
 
+#include "tools/makescreens/grown_screen.h"
 #include "tools/makescreens/screen_file.h"
-#include "tools/makescreens/tone.h"
-#include "tools/printmodel/PrintModel.h"
 
 namespace gdi::makescreens {
 namespace {
-
-using printmodel::PrintModel;
 
 constexpr std::size_t kMono = 4;
 using FourPlanes = std::array<std::size_t, 4>;
@@ -30,20 +25,6 @@ std::string setEntry(const Parameters& parameters, const Paper& paper, std::size
             "</string>\n";
   }
   return text + "\t\t\t</array>\n\t\t</dict>\n";
-}
-
-// The paper in the printers that its screens have to serve.
-std::vector<PaperModel> printersFor(const PaperModel& paper, const Variation& variation) {
-  std::vector<PaperModel> printers(3, paper);
-  printers.front().spot -= variation.spot;
-  printers.front().threshold += variation.threshold;
-  printers.back().spot += variation.spot;
-  printers.back().threshold -= variation.threshold;
-  if (variation.softness > 0.0) {
-    printers.push_back(paper);
-    printers.back().softness = variation.softness;
-  }
-  return printers;
 }
 
 }  // namespace
@@ -70,33 +51,11 @@ std::string screenSetsList(const Parameters& parameters) {
 
 std::string makeScreen(const Parameters& parameters, std::size_t paperClass, std::size_t quality,
                        std::size_t plane) {
-  const ScreenParameters& screen = parameters.screen(paperClass, quality, plane);
-  const Quality& words = parameters.qualities[quality];
-  const PaperClass& paper = parameters.classes[paperClass];
-  const int steps = (1 << words.depth) - 1;
-  const Tile tile = tileWithCells(screen.lattice, screen.leastCells);
-  const auto pixels = static_cast<std::size_t>(tile.pixels());
-  const std::vector<std::uint32_t> order = growthOrder(screen.lattice, tile, steps, screen.softEdge,
-                                                       screen.growth, parameters.starts.at(plane));
-
-  std::vector<PrintModel> models;
-  for (const PaperModel& printer : printersFor(paper.model, parameters.variation)) {
-    models.emplace_back(printer, tile, steps);
-  }
-  std::vector<std::uint8_t> values(pixels, 0);
-  std::size_t grown = 0;
-  const auto printedArea = [&](std::size_t units) {
-    for (; grown < units; ++grown) {
-      ++values[order[grown]];
-    }
-    double sum = 0.0;
-    for (const PrintModel& model : models) {
-      sum += model.printedArea(values);
-    }
-    return sum / static_cast<double>(models.size());
-  };
-  const LevelUnits levels = unitsOfLevels(order.size(), paper.gain, printedArea);
-  return screenFile(tile, words.depth, screenTable(pixels, order, levels));
+  const GrownScreen grown =
+      growScreen(parameters.screen(paperClass, quality, plane), parameters.qualities[quality].depth,
+                 parameters.classes[paperClass], parameters.variation, parameters.starts.at(plane));
+  const auto pixels = static_cast<std::size_t>(grown.tile.pixels());
+  return screenFile(grown.tile, grown.depth, screenTable(pixels, grown.order, grown.levels));
 }
 
 }  // namespace gdi::makescreens

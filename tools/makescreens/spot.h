@@ -20,6 +20,7 @@ struct SpotShape {
   double ellipse = 1.0;    // below 1 dots join to chains along V before the chains join
   double roundness = 0.0;  // above 0 dots join, and holes part, in darker tones
   double pairs = 0.0;      // how much every second dot, and hole, is larger than its neighbours
+  bool operator==(const SpotShape&) const = default;
 };
 
 // For each pixel of the tile, row by row, `steps` shares, never falling: how much of its cell is

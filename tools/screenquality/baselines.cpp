@@ -11,6 +11,7 @@
 #include "tools/makescreens/lattice.h"
 #include "tools/makescreens/tone.h"
 #include "tools/printmodel/PrintModel.h"
+#include "tools/screenquality/ordered_screen.h"
 #include "tools/screenquality/void_and_cluster.h"
 
 namespace gdi::screenquality {
@@ -21,19 +22,6 @@ using makescreens::LevelUnits;
 
 // The pixels that take one step each, in that order, until all are solid.
 using UnitOrder = std::vector<std::uint32_t>;
-
-Screen screenOf(const Tile& tile, int steps, const UnitOrder& order, const LevelUnits& levels) {
-  Screen screen{tile, steps, {}};
-  std::vector<std::uint8_t> values(tile.size(), 0);
-  std::size_t unit = 0;
-  for (const std::size_t units : levels) {
-    for (; unit < units; ++unit) {
-      ++values[order[unit]];
-    }
-    screen.outputs.insert(screen.outputs.end(), values.begin(), values.end());
-  }
-  return screen;
-}
 
 LevelUnits evenLevels(std::size_t units) {
   LevelUnits levels{};
@@ -79,7 +67,7 @@ FourScreens bayer(int steps, const PaperModel& /*paper*/, double /*gain*/) {
   }
   const Tile tile{kSide, kSide};
   const UnitOrder units = dispersed(order, steps);
-  const Screen screen = screenOf(tile, steps, units, evenLevels(units.size()));
+  const Screen screen = orderedScreen(tile, steps, units, evenLevels(units.size()));
   return {screen, screen, screen, screen};
 }
 
@@ -97,7 +85,7 @@ FourScreens clusteredAt45Degrees(int steps, const PaperModel& paper, double gain
   constexpr Tile kTile{16, 16};
   const UnitOrder order = clustered(kLattice, kTile, steps);
   const Screen screen =
-      screenOf(kTile, steps, order, compensatedLevels(kTile, steps, order, paper, gain));
+      orderedScreen(kTile, steps, order, compensatedLevels(kTile, steps, order, paper, gain));
   return {screen, screen, screen, screen};
 }
 
@@ -111,7 +99,7 @@ FourScreens clusteredAtRationalAngles(int steps, const PaperModel& /*paper*/, do
     const Lattice& lattice = kLattices.at(plane);
     const Tile tile = makescreens::tileWithCells(lattice, 8);
     const UnitOrder order = clustered(lattice, tile, steps);
-    screens.at(plane) = screenOf(tile, steps, order, evenLevels(order.size()));
+    screens.at(plane) = orderedScreen(tile, steps, order, evenLevels(order.size()));
   }
   return screens;
 }
@@ -130,8 +118,8 @@ FourScreens blueNoise(int steps, const PaperModel& paper, double gain) {
   FourScreens screens;
   for (std::size_t plane = 0; plane < screens.size(); ++plane) {
     const UnitOrder order = dispersed(blueNoiseOrders().at(plane), steps);
-    screens.at(plane) = screenOf(kBlueNoiseTile, steps, order,
-                                 compensatedLevels(kBlueNoiseTile, steps, order, paper, gain));
+    screens.at(plane) = orderedScreen(kBlueNoiseTile, steps, order,
+                                      compensatedLevels(kBlueNoiseTile, steps, order, paper, gain));
   }
   return screens;
 }

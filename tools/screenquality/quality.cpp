@@ -3,14 +3,11 @@
 
 #include "tools/screenquality/quality.h"
 
-#include <array>
 #include <cmath>
 #include <deque>
 
-#include "tools/screenquality/PrintedScreen.h"
 #include "tools/screenquality/detail.h"
 #include "tools/screenquality/grain.h"
-#include "tools/screenquality/superposition.h"
 #include "tools/screenquality/tones.h"
 
 namespace gdi::screenquality {
@@ -19,16 +16,11 @@ namespace {
 // What each plane's tones and details count on a colour page: hardly at all in yellow.
 constexpr std::array<double, 4> kPlaneWeights{0.30, 0.35, 0.05, 0.30};
 
-void addTones(Quality& sum, const PrintedScreen& print, const Conditions& conditions,
-              double weight) {
-  const double swing = exposureSwing(print);
-  const double detail = detailLoss(print, conditions);
-  const double curve = curveError(print);
-  const double steps = toneSteps(print);
-  sum.swing += weight * swing * swing;
-  sum.detail += weight * detail * detail;
-  sum.curve += weight * curve * curve;
-  sum.steps += weight * steps * steps;
+void addTerms(Quality& sum, const PlaneTerms& terms, double weight) {
+  sum.swing += weight * terms.swing * terms.swing;
+  sum.detail += weight * terms.detail * terms.detail;
+  sum.curve += weight * terms.curve * terms.curve;
+  sum.steps += weight * terms.steps * terms.steps;
 }
 
 void takeRoots(Quality& squares) {
@@ -50,11 +42,18 @@ double Quality::composite() const {
   return std::sqrt(squares);
 }
 
+PlaneTerms planeTerms(const PrintedScreen& print, const Conditions& conditions) {
+  return {exposureSwing(print), detailLoss(print, conditions), curveError(print), toneSteps(print)};
+}
+
 Quality monoQuality(const Screen& black, const Conditions& conditions) {
-  const PrintedScreen print(black, conditions.paper);
-  const Grain grain = grainOf(print, conditions);
+  return monoQuality(PrintedScreen(black, conditions.paper), conditions);
+}
+
+Quality monoQuality(const PrintedScreen& black, const Conditions& conditions) {
+  const Grain grain = grainOf(black, conditions);
   Quality quality;
-  addTones(quality, print, conditions, 1.0);
+  addTerms(quality, planeTerms(black, conditions), 1.0);
   takeRoots(quality);
   quality.grain = grain.whole();
   quality.coarse = grain.coarse;
@@ -65,13 +64,20 @@ Quality monoQuality(const Screen& black, const Conditions& conditions) {
 Quality colourQuality(const PlaneScreens& planes, const Conditions& conditions) {
   std::deque<PrintedScreen> prints;
   PrintedPlanes printed{};
-  Quality quality;
+  std::array<PlaneTerms, 4> terms;
   for (std::size_t plane = 0; plane < planes.size(); ++plane) {
     printed.at(plane) = &prints.emplace_back(*planes.at(plane), conditions.paper);
-    addTones(quality, prints.back(), conditions, kPlaneWeights.at(plane));
+    terms.at(plane) = planeTerms(prints.back(), conditions);
+  }
+  return colourQuality(terms, superpositionOf(printed, conditions));
+}
+
+Quality colourQuality(const std::array<PlaneTerms, 4>& planes, const Superposition& superposed) {
+  Quality quality;
+  for (std::size_t plane = 0; plane < planes.size(); ++plane) {
+    addTerms(quality, planes.at(plane), kPlaneWeights.at(plane));
   }
   takeRoots(quality);
-  const Superposition superposed = superpositionOf(printed, conditions);
   quality.grain = superposed.pattern;
   quality.coarse = superposed.coarse;
   quality.registration = superposed.registration;

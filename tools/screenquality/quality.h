@@ -4,8 +4,12 @@
 // The measure: how good a set of screens prints, in one number and its terms. Lower is better.
 #pragma once
 
+#include <array>
+
 #include "tools/screenquality/Conditions.h"
+#include "tools/screenquality/PrintedScreen.h"
 #include "tools/screenquality/Screen.h"
+#include "tools/screenquality/superposition.h"
 
 namespace gdi::screenquality {
 
@@ -25,7 +29,19 @@ struct Quality {
 
 // Of a page in black alone.
 Quality monoQuality(const Screen& black, const Conditions& conditions);
+Quality monoQuality(const PrintedScreen& black, const Conditions& conditions);
 // Of a colour page.
 Quality colourQuality(const PlaneScreens& planes, const Conditions& conditions);
+
+// The parts of that, for those who change one plane at a time: what each plane has by itself, and
+// all of it with the planes on each other.
+struct PlaneTerms {
+  double swing = 0.0;
+  double detail = 0.0;
+  double curve = 0.0;
+  double steps = 0.0;
+};
+PlaneTerms planeTerms(const PrintedScreen& print, const Conditions& conditions);
+Quality colourQuality(const std::array<PlaneTerms, 4>& planes, const Superposition& superposed);
 
 }  // namespace gdi::screenquality

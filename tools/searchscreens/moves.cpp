@@ -1,0 +1,134 @@
+// SPDX-FileCopyrightText: 2026 The rasterToGDI authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "tools/searchscreens/moves.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <cstddef>
+#include <span>
+
+namespace gdi::searchscreens {
+namespace {
+
+using makescreens::Lattice;
+using makescreens::SpotShape;
+
+constexpr int kLargestPeriod = 64;
+constexpr int kMostCells = 200;
+
+// In range, with that many steps to 1.
+double inRange(double value, double least, double most, double steps = 100.0) {
+  // 0 is added so that no -0 is left.
+  return std::clamp(std::round(value * steps) / steps, least, most) + 0.0;
+}
+
+void stepCoefficient(ScreenParameters& screen, Random& random) {
+  Lattice& lattice = screen.lattice;
+  const std::array<int*, 4> coefficients{&lattice.a, &lattice.b, &lattice.c, &lattice.d};
+  int& coefficient = *coefficients.at(static_cast<std::size_t>(random.whole(0, 3)));
+  coefficient += random.whole(0, 1) == 0 ? -1 : 1;
+  coefficient = std::clamp(coefficient, -kLargestPeriod, kLargestPeriod);
+}
+
+void stepPeriod(ScreenParameters& screen, Random& random) {
+  screen.lattice.n = std::clamp(screen.lattice.n + random.whole(-2, 2), 1, kLargestPeriod);
+}
+
+// One of the usual sizes.
+void newLattice(ScreenParameters& screen, Random& random) {
+  Lattice& lattice = screen.lattice;
+  lattice.n = random.whole(8, 34);
+  for (int* coefficient : {&lattice.a, &lattice.b, &lattice.c, &lattice.d}) {
+    *coefficient = random.whole(-6, 6);
+  }
+}
+
+void newPhaseU(ScreenParameters& screen, Random& random) {
+  screen.lattice.phaseU = random.whole(0, 999);
+}
+
+void newPhaseV(ScreenParameters& screen, Random& random) {
+  screen.lattice.phaseV = random.whole(0, 999);
+}
+
+void scaleCells(ScreenParameters& screen, Random& random) {
+  const double cells = screen.leastCells * std::exp(0.4 * random.normal());
+  screen.leastCells = static_cast<int>(inRange(cells, 1.0, kMostCells, 1.0));
+}
+
+void moveSoftEdge(ScreenParameters& screen, Random& random) {
+  screen.softEdge = inRange(screen.softEdge + 0.15 * random.normal(), 0.0, 1.0, 1000.0);
+}
+
+void scaleEvenness(ScreenParameters& screen, Random& random) {
+  double& evenness = screen.growth.evenness;
+  evenness = inRange(evenness * std::exp(0.4 * random.normal()), 0.1, 60.0);
+}
+
+void scaleReach(ScreenParameters& screen, Random& random) {
+  double& reach = screen.growth.crowding;
+  reach = inRange(reach * std::exp(0.25 * random.normal()), 0.3, 4.0);
+}
+
+// Of dots or of holes.
+SpotShape& someShape(ScreenParameters& screen, Random& random) {
+  return random.whole(0, 1) == 0 ? screen.growth.dots : screen.growth.holes;
+}
+
+void moveEllipse(ScreenParameters& screen, Random& random) {
+  double& ellipse = someShape(screen, random).ellipse;
+  ellipse = inRange(ellipse + 0.2 * random.normal(), 0.0, 1.0);
+}
+
+void moveRoundness(ScreenParameters& screen, Random& random) {
+  double& roundness = someShape(screen, random).roundness;
+  roundness = inRange(roundness + 0.2 * random.normal(), -1.0, 1.0);
+}
+
+void movePairs(ScreenParameters& screen, Random& random) {
+  double& pairs = someShape(screen, random).pairs;
+  pairs = random.whole(0, 2) == 0 ? 0.0 : inRange(pairs + 0.15 * random.normal(), -1.0, 1.0);
+}
+
+void likenHoles(ScreenParameters& screen, Random& /*random*/) {
+  screen.growth.holes = screen.growth.dots;
+}
+
+void newLeastDot(ScreenParameters& screen, Random& random) {
+  screen.growth.leastDot = random.whole(1, 4);
+}
+
+void newLeastHole(ScreenParameters& screen, Random& random) {
+  screen.growth.leastHole = random.whole(1, 5);
+}
+
+using Move = void (*)(ScreenParameters&, Random&);
+
+// Those of the lattice first, that of the soft edge last. Some stand twice, to come more often.
+constexpr std::size_t kLatticeMoves = 3;
+constexpr std::array<Move, 19> kMoves{stepCoefficient, stepPeriod,    newLattice,    newPhaseU,
+                                      newPhaseV,       scaleCells,    scaleEvenness, scaleReach,
+                                      moveEllipse,     moveEllipse,   moveRoundness, moveRoundness,
+                                      movePairs,       movePairs,     likenHoles,    newLeastDot,
+                                      newLeastHole,    scaleEvenness, moveSoftEdge};
+
+}  // namespace
+
+ScreenParameters changed(ScreenParameters screen, int depth, Numbers numbers, Random& random) {
+  std::span<const Move> moves = kMoves;
+  if (numbers == Numbers::kAllButLattice) {
+    moves = moves.subspan(kLatticeMoves);
+  }
+  if (depth == 1) {
+    moves = moves.first(moves.size() - 1);
+  }
+  for (int count = random.whole(1, 3); count > 0; --count) {
+    const int chosen = random.whole(0, static_cast<int>(moves.size()) - 1);
+    moves[static_cast<std::size_t>(chosen)](screen, random);
+  }
+  return screen;
+}
+
+}  // namespace gdi::searchscreens

@@ -1,0 +1,68 @@
+// SPDX-FileCopyrightText: 2026 The rasterToGDI authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "tools/searchscreens/run.h"
+
+#include <iomanip>
+#include <optional>
+#include <sstream>
+#include <string>
+
+#include "halftone/screens/file_contents.h"
+#include "tools/makescreens/screen_line.h"
+#include "tools/searchscreens/Task.h"
+#include "tools/searchscreens/search.h"
+
+namespace gdi::searchscreens {
+namespace {
+
+std::string fixed(double number, int digits) {
+  std::ostringstream text;
+  text << std::fixed << std::setprecision(digits) << number;
+  return text.str();
+}
+
+void writeFound(std::ostream& out, const CommandLine& line, const Task& task, const Found& found) {
+  out << "# searchscreens " << line.paperClass << ' ' << line.quality << ' ' << line.mode
+      << ", seed " << line.limits.seed << ", " << found.tries << " tries: J "
+      << fixed(found.before, 4) << " before, " << fixed(found.after, 4) << " after\n";
+  for (std::size_t place = 0; place < task.planes.size(); ++place) {
+    out << makescreens::screenLine(*task.parameters, task.paperClass, task.quality,
+                                   task.planes[place], found.screens[place])
+        << '\n';
+  }
+}
+
+}  // namespace
+
+int run(const CommandLine& line, std::ostream& out, std::ostream& errors) {
+  const auto refuse = [&errors](const std::string& problem) {
+    errors << "searchscreens: " << problem << '\n';
+    return kUnusable;
+  };
+  const auto contents = contentsOfFile(line.parameters);
+  if (!contents) {
+    return refuse(line.parameters.string() + ": cannot be read");
+  }
+  std::string problem;
+  const std::optional<Parameters> parameters = makescreens::parseParameters(
+      std::string(contents->begin(), contents->end()), line.parameters.string(), problem);
+  if (!parameters) {
+    return refuse(problem);
+  }
+  const std::optional<Task> task =
+      taskOf(*parameters, line.paperClass, line.quality, line.mode, problem);
+  if (!task) {
+    return refuse(line.parameters.string() + ": " + problem);
+  }
+  const Found found = search(*task, line.limits, [&errors](double seconds, long tries, double j) {
+    errors << fixed(seconds, 0) << " s, " << tries << " tries, J " << fixed(j, 4) << std::endl;
+  });
+  writeFound(out, line, *task, found);
+  if (!out.flush()) {
+    return refuse("the screens cannot be written");
+  }
+  return kSearched;
+}
+
+}  // namespace gdi::searchscreens

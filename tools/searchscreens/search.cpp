@@ -1,0 +1,156 @@
+// SPDX-FileCopyrightText: 2026 The rasterToGDI authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "tools/searchscreens/search.h"
+
+#include <algorithm>
+#include <array>
+#include <chrono>
+#include <cmath>
+#include <cstddef>
+#include <deque>
+#include <utility>
+
+#include "tools/searchscreens/Page.h"
+#include "tools/searchscreens/Random.h"
+#include "tools/searchscreens/moves.h"
+#include "tools/searchscreens/rules.h"
+
+namespace gdi::searchscreens {
+namespace {
+
+constexpr double kWarmth = 0.01;       // at first, as a share of J: how much worse is let through
+constexpr double kCooled = 0.8;        // of the search, after which nothing worse is let through
+constexpr double kAstray = 1.04;       // times the least J: from there the search goes back to it
+constexpr double kSuperposed = 0.85;   // of what planes make of each other, that one may leave
+constexpr std::size_t kFinalists = 4;  // pages that the whole measure chooses from
+constexpr double kSilence = 10.0;      // seconds
+
+// Where changes are tried on a colour page: yellow is hardly seen.
+constexpr std::array<std::size_t, 10> kPlaces{0, 0, 0, 1, 1, 1, 2, 3, 3, 3};
+
+class Watch {
+ public:
+  [[nodiscard]] double seconds() const {
+    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start_).count();
+  }
+
+ private:
+  std::chrono::steady_clock::time_point start_ = std::chrono::steady_clock::now();
+};
+
+struct Scored {
+  Page page;
+  double j;
+};
+
+class Search {
+ public:
+  Search(const Task& task, const Limits& limits, const Progress& progress)
+      : task_(task), limits_(limits), progress_(progress), random_(limits.seed) {}
+
+  Found run() {
+    const Page start(task_);
+    Scored current{start, start.quickJ()};
+    std::deque<Scored> best{current};  // the last to be found first
+    tell(best.front().j);
+    while (share() < 1.0) {
+      const double warmth = kWarmth * current.j * std::max(0.0, 1.0 - share() / kCooled);
+      std::optional<Scored> next = tryOne(current, warmth);
+      if (next) {
+        current = std::move(*next);
+      }
+      if (current.j < best.front().j) {
+        best.push_front(current);
+        best.resize(std::min(best.size(), kFinalists), current);
+        tell(current.j);
+      } else if (watch_.seconds() - told_ > kSilence) {
+        tell(best.front().j);
+      }
+      if (current.j > kAstray * best.front().j) {
+        current = best.front();
+      }
+    }
+    return judged(start, best);
+  }
+
+ private:
+  // How much of the search is over.
+  [[nodiscard]] double share() const {
+    if (!limits_.tries) {
+      return watch_.seconds() / limits_.seconds;
+    }
+    return tries_ >= *limits_.tries
+               ? 1.0
+               : static_cast<double>(tries_) / static_cast<double>(*limits_.tries);
+  }
+
+  void tell(double j) {
+    told_ = watch_.seconds();
+    progress_(told_, tries_, j);
+  }
+
+  // A changed page that is better, or worse and let through.
+  std::optional<Scored> tryOne(const Scored& current, double warmth) {
+    const auto [place, screen] = candidateFor(current.page.screens());
+    ++tries_;
+    Page page = current.page.with(place, screen);
+    // The planes on each other take long: not for a plane that is too bad by itself.
+    const double superposed = std::max(0.0, current.j * current.j - current.page.ownSquares());
+    const double most = current.j + 3.0 * warmth;
+    if (page.ownSquares() + kSuperposed * superposed > most * most) {
+      return std::nullopt;
+    }
+    const double j = page.quickJ();
+    const bool taken =
+        j < current.j || (warmth > 0.0 && random_.share() < std::exp((current.j - j) / warmth));
+    return taken ? std::optional(Scored{std::move(page), j}) : std::nullopt;
+  }
+
+  // A changed screen that keeps the rules, and the place where it belongs. There always is one: a
+  // phase may be any.
+  std::pair<std::size_t, ScreenParameters> candidateFor(
+      const std::vector<ScreenParameters>& screens) {
+    const Numbers numbers = limits_.shapesOnly ? Numbers::kAllButLattice : Numbers::kAll;
+    while (true) {
+      const std::size_t place = task_.isColour()
+                                    ? kPlaces.at(static_cast<std::size_t>(
+                                          random_.whole(0, static_cast<int>(kPlaces.size()) - 1)))
+                                    : 0;
+      std::vector<ScreenParameters> page = screens;
+      page[place] = changed(screens[place], task_.depth(), numbers, random_);
+      if (page[place] != screens[place] && breachOf(page, place, task_.depth()).empty()) {
+        return {place, page[place]};
+      }
+    }
+  }
+
+  [[nodiscard]] Found judged(const Page& start, const std::deque<Scored>& best) const {
+    const double before = start.j();
+    Found found{start.screens(), before, before, tries_};
+    for (const Scored& one : best) {
+      const double j = one.page.j();
+      if (j < found.after) {
+        found.after = j;
+        found.screens = one.page.screens();
+      }
+    }
+    return found;
+  }
+
+  const Task& task_;
+  const Limits& limits_;
+  const Progress& progress_;
+  Random random_;
+  Watch watch_;
+  long tries_ = 0;
+  double told_ = 0.0;
+};
+
+}  // namespace
+
+Found search(const Task& task, const Limits& limits, const Progress& progress) {
+  return Search(task, limits, progress).run();
+}
+
+}  // namespace gdi::searchscreens
