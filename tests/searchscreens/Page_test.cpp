@@ -75,8 +75,9 @@ TEST(Page, OfFourPlanesIsJudgedAsItsBundledScreens) {
   const SmallTask small("Color");
   const std::array<Screen, 4> screens{bundled(small.parameters, 0), bundled(small.parameters, 1),
                                       bundled(small.parameters, 2), bundled(small.parameters, 3)};
-  const auto quality = screenquality::colourQuality(
-      {&screens[0], &screens[1], &screens[2], &screens[3]}, screenquality::kPaperClasses[1]);
+  const auto& [cyan, magenta, yellow, black] = screens;
+  const auto quality = screenquality::colourQuality({&cyan, &magenta, &yellow, &black},
+                                                    screenquality::kPaperClasses[1]);
   const Page page(*small.task);
   EXPECT_DOUBLE_EQ(page.j(), quality.composite());
   EXPECT_NEAR(page.quickJ(), quality.composite(), 0.1 * quality.composite());

@@ -29,7 +29,8 @@ TEST(Random, WholeNumbersReachBothEndsAndNoFurther) {
   Random random(1);
   std::array<int, 5> counts{};
   for (int i = 0; i < 5000; ++i) {
-    ++counts.at(static_cast<std::size_t>(random.whole(-2, 2) + 2));
+    const int number = random.whole(-2, 2);
+    ++counts.at(static_cast<std::size_t>(number) + 2);
   }
   for (const int count : counts) {
     EXPECT_NEAR(count, 1000, 150);

@@ -22,7 +22,7 @@ std::string tileProblem(const ScreenParameters& screen, int depth) {
   if (lattice.cellArea() < kSmallestCell) {
     return "a cell has less than 4 pixels";
   }
-  const std::string tooLarge = "the tile has more than " + std::to_string(kMostPixels) + " pixels";
+  std::string tooLarge = "the tile has more than " + std::to_string(kMostPixels) + " pixels";
   const Tile smallest = smallestTile(lattice);
   const double doublings = static_cast<double>(screen.leastCells) / cellsIn(lattice, smallest);
   if (smallest.pixels() > kMostPixels || smallest.pixels() * doublings > kMostPixels) {

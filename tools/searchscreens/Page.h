@@ -26,7 +26,7 @@ class Page {
   [[nodiscard]] std::vector<ScreenParameters> screens() const;
   // J by the whole measure.
   [[nodiscard]] double j() const;
-  // J as a search needs it: of a colour page on half the patches and a third of the registrations.
+  // About J, sooner: of a colour page on half the patches and a third of the registrations.
   [[nodiscard]] double quickJ() const;
   // The square of J without what comes of planes on each other; of a mono page, all of it.
   [[nodiscard]] double ownSquares() const;

@@ -8,7 +8,6 @@
 #include <chrono>
 #include <cmath>
 #include <cstddef>
-#include <deque>
 #include <utility>
 
 #include "tools/searchscreens/Page.h"
@@ -19,12 +18,12 @@
 namespace gdi::searchscreens {
 namespace {
 
-constexpr double kWarmth = 0.01;       // at first, as a share of J: how much worse is let through
-constexpr double kCooled = 0.8;        // of the search, after which nothing worse is let through
-constexpr double kAstray = 1.04;       // times the least J: from there the search goes back to it
-constexpr double kSuperposed = 0.85;   // of what planes make of each other, that one may leave
-constexpr std::size_t kFinalists = 4;  // pages that the whole measure chooses from
-constexpr double kSilence = 10.0;      // seconds
+constexpr double kWarmth = 0.01;      // at first, as a share of J: how much worse is let through
+constexpr double kCooled = 0.8;       // of the search, after which nothing worse is let through
+constexpr double kAstray = 1.04;      // times the least J: from there the search goes back to it
+constexpr double kSuperposed = 0.85;  // of what planes make of each other, that one may leave
+constexpr double kSlack = 0.005;      // of J, that the estimate may be off by
+constexpr double kSilence = 10.0;     // seconds
 
 // Where changes are tried on a colour page: yellow is hardly seen.
 constexpr std::array<std::size_t, 10> kPlaces{0, 0, 0, 1, 1, 1, 2, 3, 3, 3};
@@ -41,6 +40,7 @@ class Watch {
 
 struct Scored {
   Page page;
+  double quickJ;
   double j;
 };
 
@@ -51,27 +51,25 @@ class Search {
 
   Found run() {
     const Page start(task_);
-    Scored current{start, start.quickJ()};
-    std::deque<Scored> best{current};  // the last to be found first
-    tell(best.front().j);
+    Scored current{start, start.quickJ(), start.j()};
+    const double before = current.j;
+    Scored best = current;
+    tell(best.j);
     while (share() < 1.0) {
-      const double warmth = kWarmth * current.j * std::max(0.0, 1.0 - share() / kCooled);
-      std::optional<Scored> next = tryOne(current, warmth);
-      if (next) {
+      if (std::optional<Scored> next = tryOne(current)) {
         current = std::move(*next);
       }
-      if (current.j < best.front().j) {
-        best.push_front(current);
-        best.resize(std::min(best.size(), kFinalists), current);
-        tell(current.j);
+      if (current.j < best.j) {
+        best = current;
+        tell(best.j);
       } else if (watch_.seconds() - told_ > kSilence) {
-        tell(best.front().j);
+        tell(best.j);
       }
-      if (current.j > kAstray * best.front().j) {
-        current = best.front();
+      if (current.j > kAstray * best.j) {
+        current = best;
       }
     }
-    return judged(start, best);
+    return {best.page.screens(), before, best.j, tries_};
   }
 
  private:
@@ -90,21 +88,26 @@ class Search {
     progress_(told_, tries_, j);
   }
 
-  // A changed page that is better, or worse and let through.
-  std::optional<Scored> tryOne(const Scored& current, double warmth) {
+  // A changed page that is better, or worse and let through. Planes on each other take long to
+  // judge: a page that is too bad without them, then by the estimate, goes no further.
+  std::optional<Scored> tryOne(const Scored& current) {
     const auto [place, screen] = candidateFor(current.page.screens());
     ++tries_;
+    const double warmth = kWarmth * current.j * std::max(0.0, 1.0 - share() / kCooled);
+    const double most = current.quickJ + 3.0 * warmth + kSlack * current.j;
     Page page = current.page.with(place, screen);
-    // The planes on each other take long: not for a plane that is too bad by itself.
-    const double superposed = std::max(0.0, current.j * current.j - current.page.ownSquares());
-    const double most = current.j + 3.0 * warmth;
-    if (page.ownSquares() + kSuperposed * superposed > most * most) {
+    const double superposed = current.quickJ * current.quickJ - current.page.ownSquares();
+    if (page.ownSquares() + kSuperposed * std::max(0.0, superposed) > most * most) {
       return std::nullopt;
     }
-    const double j = page.quickJ();
+    const double quickJ = page.quickJ();
+    if (quickJ > most) {
+      return std::nullopt;
+    }
+    const double j = page.j();
     const bool taken =
         j < current.j || (warmth > 0.0 && random_.share() < std::exp((current.j - j) / warmth));
-    return taken ? std::optional(Scored{std::move(page), j}) : std::nullopt;
+    return taken ? std::optional(Scored{std::move(page), quickJ, j}) : std::nullopt;
   }
 
   // A changed screen that keeps the rules, and the place where it belongs. There always is one: a
@@ -123,19 +126,6 @@ class Search {
         return {place, page[place]};
       }
     }
-  }
-
-  [[nodiscard]] Found judged(const Page& start, const std::deque<Scored>& best) const {
-    const double before = start.j();
-    Found found{start.screens(), before, before, tries_};
-    for (const Scored& one : best) {
-      const double j = one.page.j();
-      if (j < found.after) {
-        found.after = j;
-        found.screens = one.page.screens();
-      }
-    }
-    return found;
   }
 
   const Task& task_;

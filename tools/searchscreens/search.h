@@ -30,7 +30,7 @@ struct Found {
 };
 
 // Told of each better page and now and then between: seconds so far, tries so far, the least J
-// that was found, which in colour is an estimate.
+// that was found.
 using Progress = std::function<void(double seconds, long tries, double j)>;
 
 // Changes one screen at a time and keeps the rules (rules.h). Requires: a task whose screens keep
