@@ -14,7 +14,7 @@ namespace gdi::makescreens {
 namespace {
 
 constexpr std::string_view kHead =
-    "quality Fast 1\n"
+    "quality Fine 4\n"
     "class plain 0.58 0.42 0.055 1.1 0.035 0.16\n"
     "paper Bond plain\n";
 
@@ -25,10 +25,11 @@ std::optional<Parameters> parametersOf(const std::string& text) {
   return read;
 }
 
-// What is read back when all planes have that screen.
+// What is read back when all planes have that screen, at a depth at which every tile is large
+// enough.
 std::optional<ScreenParameters> readBack(const ScreenParameters& screen) {
   Parameters names;
-  names.qualities.push_back({"Fast", 1});
+  names.qualities.push_back({"Fine", 4});
   names.classes.push_back({"plain", {}, 0.0});
   std::string text(kHead);
   for (std::size_t plane = 0; plane < kPlanes.size(); ++plane) {
