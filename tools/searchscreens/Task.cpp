@@ -4,6 +4,7 @@
 #include "tools/searchscreens/Task.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "tools/makescreens/parameter_text.h"
 #include "tools/makescreens/screen_sets.h"

@@ -6,7 +6,6 @@
 
 #include <cstddef>
 #include <optional>
-#include <span>
 #include <string>
 #include <vector>
 
