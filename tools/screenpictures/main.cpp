@@ -42,13 +42,13 @@ using gdi::screenquality::ScreenSet;
 using std::filesystem::path;
 
 constexpr std::string_view kPaper = "Plain";
-constexpr int kGap = 16;  // samples between two parts of a picture
+constexpr int kTimes = 2;  // samples across and down that a point of toner is drawn in: 8 a pixel
+constexpr int kGap = 16;   // samples between two parts of a picture
 constexpr std::array<std::string_view, 3> kQualities{"Fast", "Standard", "Fine"};
 
 struct Scene {
   std::string_view name;
   Subject subject;
-  int times;  // how large a point of toner is drawn
 };
 
 // The levels of cyan, magenta, yellow and black.
@@ -59,7 +59,6 @@ struct Tint {
 constexpr std::array<Tint, 2> kTints{{{"light", {40, 32, 30, 30}}, {"neutral", {80, 70, 66, 80}}}};
 constexpr std::string_view kTintQuality = "Fast";
 constexpr Tile kTintArea = withMargin({64, 64});
-constexpr int kTintTimes = 2;  // how large a point of toner is drawn
 constexpr Move kMagentaMove{2, 1};
 
 [[noreturn]] void refuse(const std::string& problem) {
@@ -108,15 +107,15 @@ FourScreens bundledScreens(const std::vector<ScreenSet>& sets, std::string_view 
 // As sent and as developed.
 void pictureScenes(const std::vector<ScreenSet>& sets, const path& output,
                    const PaperModel& paper) {
-  const std::array<Scene, 3> scenes{{{"wedge", greyWedge({192, 126}), 1},
-                                     {"photograph", photograph({192, 128}), 1},
-                                     {"text", text({100, 72}, 593, 757), 2}}};
+  const std::array<Scene, 3> scenes{{{"wedge", greyWedge({192, 126})},
+                                     {"photograph", photograph({192, 128})},
+                                     {"text", text({100, 72}, 593, 757)}}};
   for (const std::string_view quality : kQualities) {
     const Screen screen = bundledScreens(sets, quality, "Mono").back();
-    for (const auto& [name, subject, times] : scenes) {
+    for (const auto& [name, subject] : scenes) {
       const Plane plane = screened(screen, subject.area, subject.levels);
-      const Picture sent = sentPicture(plane, kPointsAcross * times);
-      const Picture printed = magnified(developedPicture(plane, paper), times);
+      const Picture sent = sentPicture(plane, kPointsAcross * kTimes);
+      const Picture printed = magnified(developedPicture(plane, paper), kTimes);
       write(besideEachOther(sent, printed, kGap, kGapPlace), output, nameOf({name, quality}));
     }
   }
@@ -130,9 +129,9 @@ Picture tintPicture(const FourScreens& screens, const Tint& tint, const PaperMod
   }
   const Picture registered = superposedPicture(planes, paper);
   planes[1] = flatTint(screens[1], kTintArea, tint.levels[1], kMagentaMove);
-  return magnified(besideEachOther(registered, superposedPicture(planes, paper), kGap / kTintTimes,
-                                   kPaleGreyPlace),
-                   kTintTimes);
+  return magnified(
+      besideEachOther(registered, superposedPicture(planes, paper), kGap / kTimes, kPaleGreyPlace),
+      kTimes);
 }
 
 void pictureTints(const FourScreens& screens, const std::string& name, const path& output,
