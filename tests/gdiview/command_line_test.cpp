@@ -5,15 +5,13 @@
 
 #include <algorithm>
 #include <cctype>
-#include <cstdio>
 #include <filesystem>
 #include <string>
 
 #include <gtest/gtest.h>
-#include <sys/wait.h>
 
 #include "tests/gdiview/small_jobs.h"
-#include "tests/support/TemporaryFolder.h"
+#include "tests/support/ProgramInFolder.h"
 
 namespace gdi::gdiview {
 namespace {
@@ -23,21 +21,15 @@ class CommandLineOfGdiview : public testing::Test {
   // Answers the exit status; `arguments` are for the shell, which stands in the test's folder.
   int run(const std::string& arguments, const std::string& input = "/dev/null",
           const std::string& output = "out") {
-    const std::string command = "cd '" + folder_.path().string() + "' && '" GDI_VIEW "' " +
-                                arguments + " <" + input + " >" + output + " 2>errors";
-    std::FILE* pipe = popen(command.c_str(), "r");  // NOLINT(cert-env33-c): a test's own command
-    if (pipe == nullptr) {
-      return -1;
-    }
-    const int status = pclose(pipe);
-    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+    return program_.run(arguments, input, output);
   }
-  [[nodiscard]] std::string out() const { return test::contentsOf(folder_.path() / "out"); }
-  [[nodiscard]] std::string errors() const { return test::contentsOf(folder_.path() / "errors"); }
+  [[nodiscard]] std::string out() const { return program_.out(); }
+  [[nodiscard]] std::string errors() const { return program_.errors(); }
 
   void writeJob(const std::string& name, std::size_t bytes = kEndOffset + 4) {
     const jobtest::JobBuilder job = twoPages();
-    folder_.write(name, std::string(job.bytes().begin(), job.bytes().end()).substr(0, bytes));
+    program_.folder().write(name,
+                            std::string(job.bytes().begin(), job.bytes().end()).substr(0, bytes));
   }
   void expectUsageError(const std::string& arguments) {
     EXPECT_EQ(run(arguments), 2) << arguments;
@@ -48,7 +40,7 @@ class CommandLineOfGdiview : public testing::Test {
     EXPECT_TRUE(line.ends_with("\n")) << arguments;
   }
 
-  test::TemporaryFolder folder_;
+  test::ProgramInFolder program_{GDI_VIEW};
 };
 
 TEST_F(CommandLineOfGdiview, EachHelpIsPrintedAndExitsWith0) {
@@ -90,7 +82,7 @@ TEST_F(CommandLineOfGdiview, AUsageErrorIsOneLineAndExitsWith2) {
   expectUsageError("diff job job --ignore nonsense");
   expectUsageError("diff job job --ignore ,");
   expectUsageError("diff job job --ignore ''");
-  EXPECT_FALSE(std::filesystem::exists(folder_.path() / "pictures"));
+  EXPECT_FALSE(std::filesystem::exists(program_.folder().path() / "pictures"));
 }
 
 TEST_F(CommandLineOfGdiview, AWordThatIsNeitherACommandNorAFileIsTold) {
@@ -127,7 +119,7 @@ TEST_F(CommandLineOfGdiview, WhatIsMissingIsToldWithTheCommandsHelp) {
 
 TEST_F(CommandLineOfGdiview, AnEmptyNameIsRefused) {
   writeJob("job");
-  folder_.write("Info.plist", "{}");  // not taken for the one of a folder without a name
+  program_.folder().write("Info.plist", "{}");  // not taken for the one of a folder without a name
   const std::string job = "JOB: it must name a file, or be -; gdiview ";
   for (const auto& [words, line] : std::initializer_list<std::pair<const char*, std::string>>{
            {"check ''", job + "check --help"},
@@ -158,9 +150,9 @@ TEST_F(CommandLineOfGdiview, WhatIsTooMuchIsTold) {
 
 TEST_F(CommandLineOfGdiview, FieldsToIgnoreMayStandAnywhere) {
   writeJob("A");
-  std::string job = test::contentsOf(folder_.path() / "A");
+  std::string job = test::contentsOf(program_.folder().path() / "A");
   job[23] = '\xD4';  // an hour less
-  folder_.write("B", job);
+  program_.folder().write("B", job);
   for (const char* words :
        {"A B --ignore date,host", "--ignore date,host A B", "A --ignore date,host B",
         "--ignore date,host A B -o DIR", "--ignore date,host -o DIR A B",
@@ -182,7 +174,7 @@ TEST_F(CommandLineOfGdiview, AFieldThatDoesNotExistIsToldByItself) {
 
 TEST_F(CommandLineOfGdiview, ResourcesThatCannotBeReadAreRefused) {
   writeJob("job");
-  folder_.write("Info.plist", "<plist><dict><key>");
+  program_.folder().write("Info.plist", "<plist><dict><key>");
   EXPECT_EQ(run("check --resources . job"), 2);
   EXPECT_EQ(errors(),
             "gdiview: --resources: .: its Info.plist is no dictionary; gdiview check --help tells "
@@ -204,15 +196,15 @@ TEST_F(CommandLineOfGdiview, AJobWithoutACommandBecomesPictures) {
   writeJob("job");
   EXPECT_EQ(run("job -o pictures"), 0);
   EXPECT_EQ(errors(), "");
-  EXPECT_TRUE(std::filesystem::is_regular_file(folder_.path() / "pictures/page-1.png"));
-  EXPECT_TRUE(std::filesystem::is_regular_file(folder_.path() / "pictures/page-2.png"));
+  EXPECT_TRUE(std::filesystem::is_regular_file(program_.folder().path() / "pictures/page-1.png"));
+  EXPECT_TRUE(std::filesystem::is_regular_file(program_.folder().path() / "pictures/page-2.png"));
 }
 
 TEST_F(CommandLineOfGdiview, WithoutACommandOptionsMayComeFirst) {
   writeJob("job");
   EXPECT_EQ(run("-o png --upright job"), 0);
   EXPECT_EQ(errors(), "");
-  EXPECT_TRUE(std::filesystem::is_regular_file(folder_.path() / "png/page-1.png"));
+  EXPECT_TRUE(std::filesystem::is_regular_file(program_.folder().path() / "png/page-1.png"));
 }
 
 TEST_F(CommandLineOfGdiview, AHyphenIsStandardInput) {
@@ -220,7 +212,7 @@ TEST_F(CommandLineOfGdiview, AHyphenIsStandardInput) {
   EXPECT_EQ(run("check -", "job"), 0);
   EXPECT_EQ(out(), "-: 2 pages, 5 bands, 0 violations, 0 notes\n");
   EXPECT_EQ(run("- -o pictures --page 2", "job"), 0);
-  EXPECT_TRUE(std::filesystem::is_regular_file(folder_.path() / "pictures/page-2.png"));
+  EXPECT_TRUE(std::filesystem::is_regular_file(program_.folder().path() / "pictures/page-2.png"));
 }
 
 TEST_F(CommandLineOfGdiview, CheckExitsWith0ForASoundJob) {
@@ -242,7 +234,7 @@ TEST_F(CommandLineOfGdiview, CheckExitsWith1ForAViolation) {
 TEST_F(CommandLineOfGdiview, CheckExitsWith2ForWhatIsNoJob) {
   EXPECT_EQ(run("check missing"), 2);
   EXPECT_EQ(errors(), "gdiview: missing: No such file or directory\n");
-  folder_.write("letter", "%PDF-1.7\n");
+  program_.folder().write("letter", "%PDF-1.7\n");
   EXPECT_EQ(run("check letter"), 2);
   EXPECT_EQ(out(), "");
   EXPECT_EQ(errors(), "gdiview: letter: this is no job stream: it begins like a PDF document\n");

@@ -4,14 +4,12 @@
 // screenquality as the build runs it: its words, its exit status and where its lines go.
 
 #include <algorithm>
-#include <cstdio>
 #include <string>
 
 #include <gtest/gtest.h>
-#include <sys/wait.h>
 
 #include "tests/screenquality/small_bundle.h"
-#include "tests/support/TemporaryFolder.h"
+#include "tests/support/ProgramInFolder.h"
 
 namespace gdi::screenquality {
 namespace {
@@ -20,20 +18,13 @@ class ScreenQualityProgram : public testing::Test {
  protected:
   // Answers the exit status.
   int run(const std::string& arguments, const std::string& output = "out") {
-    const std::string command = "cd '" + folder_.path().string() + "' && '" GDI_SCREENQUALITY "' " +
-                                arguments + " >" + output + " 2>errors";
-    std::FILE* pipe = popen(command.c_str(), "r");  // NOLINT(cert-env33-c): a test's own command
-    if (pipe == nullptr) {
-      return -1;
-    }
-    const int status = pclose(pipe);
-    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+    return program_.run(arguments, "/dev/null", output);
   }
-  [[nodiscard]] std::string out() const { return test::contentsOf(folder_.path() / "out"); }
-  [[nodiscard]] std::string errors() const { return test::contentsOf(folder_.path() / "errors"); }
+  [[nodiscard]] std::string out() const { return program_.out(); }
+  [[nodiscard]] std::string errors() const { return program_.errors(); }
 
  private:
-  test::TemporaryFolder folder_;
+  test::ProgramInFolder program_{GDI_SCREENQUALITY};
 };
 
 TEST_F(ScreenQualityProgram, HelpTellsEveryOption) {
