@@ -3,8 +3,8 @@
 
 #include "tools/screenquality/Conditions.h"
 
+#include <array>
 #include <string_view>
-#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -39,26 +39,20 @@ TEST(PaperClasses, ANameThatNoJobCarriesHasNone) {
   }
 }
 
-TEST(PaperClasses, RougherPaperIsNoisierAndSpreadsLightFurther) {
-  const auto& [smooth, plain, rough] = kPaperClasses;
-  const std::vector<const Conditions*> rising{&smooth, &plain, &rough};
-  for (std::size_t i = 1; i < rising.size(); ++i) {
-    const Conditions& before = *rising[i - 1];
-    const Conditions& after = *rising[i];
-    EXPECT_LT(before.noise, after.noise);
-    EXPECT_LE(before.noiseCorrelation, after.noiseCorrelation);
-    EXPECT_LT(before.paper.spot, after.paper.spot);
-    EXPECT_LT(before.paper.softness, after.paper.softness);
-    EXPECT_LT(before.paper.spread, after.paper.spread);
-    EXPECT_GT(before.paper.threshold, after.paper.threshold);
-  }
-}
-
-TEST(PaperClasses, AllAreSeenFromTwelveInches) {
-  for (const Conditions& conditions : kPaperClasses) {
-    EXPECT_EQ(conditions.inches, 12.0) << conditions.name;
-    EXPECT_EQ(conditions.paper.solid, 0.035) << conditions.name;
-  }
+// Spot, threshold, softness, spread, solid, noise and its correlation, gain, inches.
+TEST(PaperClasses, HaveTheFiguresThatAllJudgementsCompareUnder) {
+  using Figures = std::array<double, 9>;
+  const auto figuresOf = [](const Conditions& one) {
+    const PaperModel& paper = one.paper;
+    return Figures{paper.spot, paper.threshold,      paper.softness, paper.spread, paper.solid,
+                   one.noise,  one.noiseCorrelation, one.gain,       one.inches};
+  };
+  EXPECT_EQ(figuresOf(kPaperClasses[0]),
+            (Figures{0.55, 0.43, 0.050, 0.9, 0.035, 0.032, 1.5, 0.14, 12.0}));
+  EXPECT_EQ(figuresOf(kPaperClasses[1]),
+            (Figures{0.58, 0.42, 0.055, 1.1, 0.035, 0.040, 1.5, 0.16, 12.0}));
+  EXPECT_EQ(figuresOf(kPaperClasses[2]),
+            (Figures{0.66, 0.41, 0.065, 1.4, 0.035, 0.055, 1.8, 0.19, 12.0}));
 }
 
 }  // namespace

@@ -112,6 +112,26 @@ TEST(Validity, FewerThanTwoHundredAndFiftyTonesAreTold) {
             Lines{"FastPlainMono: screen other: 249 different mean tones, fewer than 250"});
 }
 
+// Pixels that darken one after the other in reading order, all of them at the last level.
+Screen inReadingOrder(const Tile& tile) {
+  Screen screen{tile, 1, {}};
+  for (std::size_t level = 0; level < kLevels; ++level) {
+    for (std::size_t pixel = 0; pixel < tile.size(); ++pixel) {
+      screen.outputs.push_back(pixel * 255 / tile.size() < level ? 1 : 0);
+    }
+  }
+  return screen;
+}
+
+TEST(Validity, AFlatTintThatRepeatsBeyondTheReachOfACopyIsTold) {
+  ScreenSet set = validSet();
+  other(set).screen = inReadingOrder({127, 3});  // 127 words of 16 bits hold 127 tiles of 16
+  EXPECT_EQ(breachesOf(set), Lines{});
+  other(set).screen = inReadingOrder({129, 3});
+  EXPECT_EQ(breachesOf(set), Lines{"FastPlainMono: screen other: a flat tint repeats after 129 "
+                                   "words, more than 128"});
+}
+
 TEST(Validity, AScreenThatSeveralPlanesShareIsToldOnce) {
   ScreenSet set = validSet();
   for (BundledScreen& screen : set.screens) {

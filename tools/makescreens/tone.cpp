@@ -52,16 +52,23 @@ double targetArea(int level, double gain) {
   return tone + gain * 4.0 * tone * (1.0 - tone);
 }
 
-LevelUnits unitsOfLevels(std::size_t units, double gain, const PrintedAreaOf& printedArea) {
+LevelUnits nearestUnits(std::size_t units, double gain, const PrintedAreaOf& printedArea) {
   const std::vector<double> curve = sampledCurve(units, printedArea);
   LevelUnits result{};
   for (int level = 1; level < kLevels - 1; ++level) {
-    const auto index = static_cast<std::size_t>(level);
     const double share = samplesAt(curve, targetArea(level, gain)) / kSamples;
-    const auto wanted = static_cast<std::size_t>(std::lround(share * static_cast<double>(units)));
-    result.at(index) = std::max(wanted, result.at(index - 1) + 1);
+    result.at(static_cast<std::size_t>(level)) =
+        static_cast<std::size_t>(std::lround(share * static_cast<double>(units)));
   }
   result.back() = units;
+  return result;
+}
+
+LevelUnits unitsOfLevels(std::size_t units, double gain, const PrintedAreaOf& printedArea) {
+  LevelUnits result = nearestUnits(units, gain, printedArea);
+  for (std::size_t level = 1; level < kLevels - 1; ++level) {
+    result.at(level) = std::max(result.at(level), result.at(level - 1) + 1);
+  }
   for (std::size_t level = kLevels - 1; level > 0; --level) {
     result.at(level - 1) = std::min(result.at(level - 1), result.at(level) - 1);
   }

@@ -21,6 +21,10 @@ using PrintedAreaOf = std::function<double(std::size_t units)>;
 // 4 t (1 - t), so by `gain` in the middle.
 double targetArea(int level, double gain);
 
+// Units per level: 0 for level 0, `units` for level 255, and else as many as print the target best,
+// so that levels may be alike. `printedArea` is asked with never falling counts.
+LevelUnits nearestUnits(std::size_t units, double gain, const PrintedAreaOf& printedArea);
+
 // Units per level: 0 for level 0, `units` for level 255, at least one more for each level, and
 // otherwise as many as print the target. `printedArea` is asked with never falling counts.
 // Requires: units >= 255.

@@ -36,7 +36,7 @@ LevelUnits compensatedLevels(const Tile& tile, int steps, const UnitOrder& order
   const printmodel::PrintModel model(paper, tile, steps);
   std::vector<std::uint8_t> values(tile.size(), 0);
   std::size_t unit = 0;
-  return makescreens::unitsOfLevels(order.size(), gain, [&](std::size_t units) {
+  return makescreens::nearestUnits(order.size(), gain, [&](std::size_t units) {
     for (; unit < units; ++unit) {
       ++values[order[unit]];
     }

@@ -11,6 +11,8 @@
 #include <sstream>
 #include <utility>
 
+#include "tools/samplepages/flat_repeat.h"
+
 namespace gdi::screenquality {
 namespace {
 
@@ -99,6 +101,11 @@ class Breaches {
     if (screen.bytes < kSmallestFile || screen.bytes > kLargestFile) {
       add("the file has " + number(screen.bytes) + " bytes, outside " + number(kSmallestFile) +
           " to " + number(kLargestFile));
+    }
+    const std::int64_t repeat = samplepages::flatRepeatWords(screen.screen.tile.width, set_.depth);
+    if (repeat > kLongestRepeat) {
+      add("a flat tint repeats after " + number(repeat) + " words, more than " +
+          number(kLongestRepeat));
     }
   }
 

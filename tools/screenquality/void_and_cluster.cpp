@@ -68,7 +68,7 @@ class Pattern {
 };
 
 // A tenth of the pixels, strewn, then moved from clusters into voids until that changes nothing.
-Pattern prototype(const Tile& tile, std::uint32_t seed) {
+Pattern firstPattern(const Tile& tile, std::uint32_t seed) {
   Pattern pattern(tile);
   std::uint32_t state = seed * 2654435761U;
   for (std::size_t count = 0; count < tile.size() / 10;) {
@@ -93,7 +93,7 @@ Pattern prototype(const Tile& tile, std::uint32_t seed) {
 }  // namespace
 
 std::vector<std::uint32_t> voidAndCluster(const Tile& tile, std::uint32_t seed) {
-  const Pattern first = prototype(tile, seed);
+  const Pattern first = firstPattern(tile, seed);
   std::vector<std::uint32_t> order;
   Pattern thinning = first;
   for (std::size_t count = 0; count < tile.size() / 10; ++count) {
