@@ -70,6 +70,7 @@ TEST_F(Search, TellsOfTheStartAndOfEachBetterScreen) {
   EXPECT_TRUE(std::ranges::is_sorted(searched.told));
 }
 
+#ifndef GDI_SLOW_BUILD
 TEST_F(Search, ASeedGivesTheSameScreens) {
   const Found first = search("Mono", tries(4, 3)).found;
   const Found second = search("Mono", tries(4, 3)).found;
@@ -77,6 +78,7 @@ TEST_F(Search, ASeedGivesTheSameScreens) {
   EXPECT_EQ(first.after, second.after);
   EXPECT_NE(first.screens, search("Mono", tries(4, 4)).found.screens);
 }
+#endif
 
 TEST_F(Search, IsNeverWorseThanTheStart) {
   for (std::uint32_t seed = 1; seed <= 3; ++seed) {
@@ -86,6 +88,7 @@ TEST_F(Search, IsNeverWorseThanTheStart) {
   }
 }
 
+#ifndef GDI_SLOW_BUILD
 TEST_F(Search, KeepsTheLatticeWhenAskedTo) {
   Limits limits = tries(10);
   limits.shapesOnly = true;
@@ -94,6 +97,7 @@ TEST_F(Search, KeepsTheLatticeWhenAskedTo) {
   lattice.phaseV = task().screens().at(0).lattice.phaseV;
   EXPECT_EQ(lattice, task().screens().at(0).lattice);
 }
+#endif
 
 TEST_F(Search, EndsAfterItsSeconds) {
   Limits limits;

@@ -67,6 +67,7 @@ TEST_F(MakeScreens, WritesTheListAndEveryScreen) {
   EXPECT_TRUE(std::filesystem::exists(folder_ / "out/ScreenSets.plist"));
 }
 
+#ifndef GDI_SLOW_BUILD
 // The contents of the list of screens and of every screen, by name.
 std::map<std::string, std::string> screensIn(const std::filesystem::path& folder) {
   std::map<std::string, std::string> contents;
@@ -95,6 +96,7 @@ TEST_F(MakeScreens, MakesTheBundlesScreensAgainToTheByte) {
     EXPECT_TRUE(contents == twin->second) << name;
   }
 }
+#endif
 
 TEST_F(MakeScreens, RefusesBadParametersWithFileAndLine) {
   const std::string path = writeParameters("quality Fast 1\npaint red\n");

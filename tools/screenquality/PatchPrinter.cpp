@@ -6,21 +6,11 @@
 #include "tools/screenquality/colour.h"
 
 namespace gdi::screenquality {
-
-std::vector<double> PatchPrinter::channel(const Patch& patch, const Shifts& shifts,
-                                          std::size_t rgb) const {
-  std::vector<double> passed(kPatchField.size(), 1.0);
-  for (std::size_t plane = 0; plane < planes_.size(); ++plane) {
-    if (patch.at(plane) > 0) {
-      cover(passed, *planes_.at(plane), patch.at(plane), shifts.at(plane), kInks.at(plane).at(rgb));
-    }
-  }
-  return light_.reflectance(kPatchField, passed);
-}
+namespace {
 
 // Lets `passed` through the plane's toner too.
-void PatchPrinter::cover(std::vector<double>& passed, const PrintedScreen& plane, std::size_t level,
-                         const Shift& shift, double solid) const {
+void cover(std::vector<double>& passed, const PrintedScreen& plane, std::size_t level,
+           const Shift& shift, double solid) {
   const Tile& tile = plane.screen().tile;
   const std::vector<double> through = printmodel::transmissionOf(plane.coverage(level), solid);
   for (int y = 0; y < kPatchSide; ++y) {
@@ -33,6 +23,19 @@ void PatchPrinter::cover(std::vector<double>& passed, const PrintedScreen& plane
       column = column + 1 == tile.width ? 0 : column + 1;
     }
   }
+}
+
+}  // namespace
+
+std::vector<double> PatchPrinter::channel(const Patch& patch, const Shifts& shifts,
+                                          std::size_t rgb) const {
+  std::vector<double> passed(kPatchField.size(), 1.0);
+  for (std::size_t plane = 0; plane < planes_.size(); ++plane) {
+    if (patch.at(plane) > 0) {
+      cover(passed, *planes_.at(plane), patch.at(plane), shifts.at(plane), kInks.at(plane).at(rgb));
+    }
+  }
+  return light_.reflectance(kPatchField, passed);
 }
 
 }  // namespace gdi::screenquality

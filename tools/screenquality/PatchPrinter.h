@@ -38,9 +38,6 @@ class PatchPrinter {
                                             std::size_t rgb) const;
 
  private:
-  void cover(std::vector<double>& passed, const PrintedScreen& plane, std::size_t level,
-             const Shift& shift, double solid) const;
-
   PrintedPlanes planes_;
   printmodel::PaperLight light_;
 };
