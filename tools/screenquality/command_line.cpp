@@ -4,9 +4,9 @@
 #include "tools/screenquality/command_line.h"
 
 #include <algorithm>
+#include <utility>
 
-#include <CLI/CLI.hpp>
-
+#include "tools/cli/parse_words.h"
 #include "tools/screenquality/bundled_sets.h"
 #include "tools/screenquality/run.h"
 
@@ -33,29 +33,13 @@ std::variant<CommandLine, int> readCommandLine(std::vector<std::string> words, s
                "Tell whether sets stay ahead of the baselines in other printers and at other\n"
                "distances; takes minutes, unless for one set");
   app.add_flag("--bytes", line.bytes, "Tell what three sample pages compress to");
-  const auto refuse = [&](const std::string& fault) {
-    errors << "screenquality: " << fault << "; screenquality --help tells more\n";
-    return kUnusable;
-  };
-  try {
-    // The parser takes the words from the back.
-    std::ranges::reverse(words);
-    app.parse(std::move(words));
-  } catch (const CLI::Success& success) {
-    const int status = app.exit(success, out, errors);
-    if (!out.flush()) {
-      errors << "screenquality: the help cannot be written\n";
-      return kUnusable;
-    }
-    return status;
-  } catch (const CLI::ParseError& error) {
-    std::string fault = error.what();
-    std::ranges::replace(fault, '\n', ' ');
-    return refuse(fault);
+  if (const auto status = cli::parseWords(app, std::move(words), kUnusable, out, errors)) {
+    return *status;
   }
   line.baselines = !noBaselines;
   if (!line.only.empty() && std::ranges::count(screenSetKeys(), line.only) == 0) {
-    return refuse(line.only + " is no key of a set");
+    cli::tellFault(app, line.only + " is no key of a set", errors);
+    return kUnusable;
   }
   return line;
 }

@@ -3,10 +3,9 @@
 
 #include "tools/searchscreens/command_line.h"
 
-#include <algorithm>
+#include <utility>
 
-#include <CLI/CLI.hpp>
-
+#include "tools/cli/parse_words.h"
 #include "tools/searchscreens/run.h"
 
 namespace gdi::searchscreens {
@@ -39,29 +38,13 @@ std::variant<CommandLine, int> readCommandLine(std::vector<std::string> words, s
       ->option_text("N");
   app.add_option("--seed", line.limits.seed, "What chance begins with (1)")->option_text("N");
   app.add_flag("--shapes-only", line.limits.shapesOnly, "Keep the lattices");
-  const auto refuse = [&](const std::string& fault) {
-    errors << "searchscreens: " << fault << "; searchscreens --help tells more\n";
-    return kUnusable;
-  };
-  try {
-    // The parser takes the words from the back.
-    std::ranges::reverse(words);
-    app.parse(std::move(words));
-  } catch (const CLI::Success& success) {
-    const int status = app.exit(success, out, errors);
-    if (!out.flush()) {
-      errors << "searchscreens: the help cannot be written\n";
-      return kUnusable;
-    }
-    return status;
-  } catch (const CLI::ParseError& error) {
-    std::string fault = error.what();
-    std::ranges::replace(fault, '\n', ' ');
-    return refuse(fault);
+  if (const auto status = cli::parseWords(app, std::move(words), kUnusable, out, errors)) {
+    return *status;
   }
   // Written so that what is no number is refused, too.
   if (!(line.limits.seconds > 0.0 && line.limits.seconds <= kMostSeconds)) {
-    return refuse("--seconds is no number above 0 up to 1000000");
+    cli::tellFault(app, "--seconds is no number above 0 up to 1000000", errors);
+    return kUnusable;
   }
   return line;
 }
