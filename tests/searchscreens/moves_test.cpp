@@ -63,7 +63,7 @@ TEST(Moves, ChangeEveryNumber) {
     note(7, next.leastCells != screen.leastCells);
     note(8, next.softEdge != screen.softEdge);
     note(9, next.growth.evenness != screen.growth.evenness);
-    note(10, next.growth.crowding != screen.growth.crowding);
+    note(10, next.growth.reach != screen.growth.reach);
     note(11, next.growth.dots.ellipse != screen.growth.dots.ellipse);
     note(12, next.growth.dots.roundness != screen.growth.dots.roundness);
     note(13, next.growth.dots.pairs != screen.growth.dots.pairs);

@@ -126,8 +126,8 @@ TEST(GrowthOrder, TheReachOfCrowdingMattersOnlyWhereCrowdedPlacesArePutOff) {
   GrowthRule even = evenRule();
   const std::vector<std::uint32_t> byShape = grownBy(loose);
   const std::vector<std::uint32_t> usual = grownBy(even);
-  loose.crowding = 0.3;
-  even.crowding = 0.3;
+  loose.reach = 0.3;
+  even.reach = 0.3;
   EXPECT_EQ(grownBy(loose), byShape);
   EXPECT_NE(grownBy(even), usual);
 }

@@ -79,7 +79,7 @@ TEST(Parameters, AScreenSaysHowItsDotsAndItsHolesGrow) {
   EXPECT_EQ(screen.lattice.phaseU, 500);
   EXPECT_DOUBLE_EQ(screen.softEdge, 1.0);
   EXPECT_DOUBLE_EQ(screen.growth.evenness, 4.0);
-  EXPECT_DOUBLE_EQ(screen.growth.crowding, 1.5);
+  EXPECT_DOUBLE_EQ(screen.growth.reach, 1.5);
   EXPECT_DOUBLE_EQ(screen.growth.dots.ellipse, 0.8);
   EXPECT_DOUBLE_EQ(screen.growth.dots.roundness, -0.1);
   EXPECT_DOUBLE_EQ(screen.growth.dots.pairs, 0.0);

@@ -189,7 +189,7 @@ std::vector<std::uint32_t> growthOrder(const Lattice& lattice, const Tile& tile,
   const auto unitsPerPixel = static_cast<std::uint32_t>(steps);
   const std::size_t units = pixels * unitsPerPixel;
   const std::vector<std::int64_t> kernel =
-      crowdingKernel(tile, rule.crowding * std::sqrt(lattice.cellArea()), rule.evenness / steps);
+      crowdingKernel(tile, rule.reach * std::sqrt(lattice.cellArea()), rule.evenness / steps);
   const Grower grower(tile, kernel, start);
 
   const Direction dots{spotShares(lattice, tile, steps, softEdge, rule.dots),

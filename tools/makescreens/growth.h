@@ -14,7 +14,7 @@ namespace gdi::makescreens {
 
 struct GrowthRule {
   double evenness = 6.0;  // how strongly crowded places are put off, at least 0
-  double crowding = 1.0;  // widths over which crowding is felt, as a multiple of the usual ones
+  double reach = 1.0;     // widths over which crowding is felt, as a multiple of the usual ones
   SpotShape dots;         // while dots grow out of white
   SpotShape holes;        // while holes close
   int leastDot = 2;       // pixels that a dot is given before another is begun, at least 1

@@ -231,7 +231,7 @@ class Reader {
 
   bool readGrowth(Fields fields, GrowthRule& growth) {
     return readNumber("evenness", fields[0], 0.0, 100.0, growth.evenness) &&
-           readNumber("reach", fields[1], 0.1, 10.0, growth.crowding) &&
+           readNumber("reach", fields[1], 0.1, 10.0, growth.reach) &&
            readShape(fields.subspan(2, 3), growth.dots) &&
            readShape(fields.subspan(5, 3), growth.holes) &&
            readNumber("least dot", fields[8], 1, 16, growth.leastDot) &&

@@ -64,7 +64,7 @@ std::string screenLine(const Parameters& parameters, std::size_t paperClass, std
   line.number(screen.leastCells, 6);
   line.number(screen.softEdge, 5);
   line.number(screen.growth.evenness, 6);
-  line.number(screen.growth.crowding, 5);
+  line.number(screen.growth.reach, 5);
   line.shape(screen.growth.dots);
   line.shape(screen.growth.holes);
   line.number(screen.growth.leastDot, 2);

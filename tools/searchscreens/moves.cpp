@@ -68,7 +68,7 @@ void scaleEvenness(ScreenParameters& screen, Random& random) {
 }
 
 void scaleReach(ScreenParameters& screen, Random& random) {
-  double& reach = screen.growth.crowding;
+  double& reach = screen.growth.reach;
   reach = inRange(reach * std::exp(0.25 * random.normal()), 0.3, 4.0);
 }
 
