@@ -14,10 +14,15 @@
 #include <gtest/gtest.h>
 
 #include "tests/screenquality/test_screens.h"
-#include "tools/screenquality/colour.h"
+#include "tools/eye/colour.h"
 
 namespace gdi::screenquality {
 namespace {
+
+using eye::lightnessSeen;
+using eye::lightnessSlope;
+using eye::noiseSeen;
+using eye::pixelsPerDegree;
 
 const Conditions& kPlain = kPaperClasses[1];
 

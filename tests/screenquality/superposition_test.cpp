@@ -18,13 +18,20 @@
 #include <gtest/gtest.h>
 
 #include "tests/screenquality/test_screens.h"
+#include "tools/eye/colour.h"
+#include "tools/eye/sight.h"
 #include "tools/printmodel/PaperLight.h"
-#include "tools/screenquality/colour.h"
-#include "tools/screenquality/eye.h"
 #include "tools/screenquality/grain.h"
 
 namespace gdi::screenquality {
 namespace {
+
+using eye::chromaSeen;
+using eye::kInks;
+using eye::labSlopes;
+using eye::lightnessSeen;
+using eye::pixelsPerDegree;
+using eye::Rgb;
 
 const Conditions& kPlain = kPaperClasses[1];
 

@@ -14,11 +14,13 @@
 #include <gtest/gtest.h>
 
 #include "tests/screenquality/test_screens.h"
-#include "tools/screenquality/colour.h"
+#include "tools/eye/colour.h"
 #include "tools/screenquality/levels.h"
 
 namespace gdi::screenquality {
 namespace {
+
+using eye::lightness;
 
 constexpr int kRows = 2048;
 constexpr Tile kColumn{1, kRows};

@@ -59,6 +59,19 @@ TEST(Page, IsJudgedAsItsBundledScreen) {
   EXPECT_DOUBLE_EQ(page.ownSquares(), j * j);
 }
 
+TEST(Page, IsJudgedUnderOtherConditionsAsItsBundledScreen) {
+  const SmallTask small("Mono");
+  const Screen screen = bundled(small.parameters, 4);
+  const Page page(*small.task);
+  Conditions far = *small.task->conditions;
+  far.inches = 16.0;
+  EXPECT_DOUBLE_EQ(page.jUnder(far), screenquality::monoQuality(screen, far).composite());
+  Conditions blurred = *small.task->conditions;
+  blurred.paper.spot = 0.7;
+  EXPECT_DOUBLE_EQ(page.jUnder(blurred), screenquality::monoQuality(screen, blurred).composite());
+  EXPECT_GT(page.jUnder(blurred), page.jUnder(far));
+}
+
 TEST(Page, WithAnotherScreenIsAnotherPage) {
   const SmallTask small("Mono");
   const Page page(*small.task);
@@ -80,6 +93,12 @@ TEST(Page, OfFourPlanesIsJudgedAsItsBundledScreens) {
                                                     screenquality::kPaperClasses[1]);
   const Page page(*small.task);
   EXPECT_DOUBLE_EQ(page.j(), quality.composite());
+  Conditions other = screenquality::kPaperClasses[1];
+  other.paper.spot = 0.7;
+  other.inches = 16.0;
+  EXPECT_DOUBLE_EQ(
+      page.jUnder(other),
+      screenquality::colourQuality({&cyan, &magenta, &yellow, &black}, other).composite());
   EXPECT_NEAR(page.quickJ(), quality.composite(), 0.1 * quality.composite());
 
   auto own = quality;

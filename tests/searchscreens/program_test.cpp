@@ -32,7 +32,7 @@ class SearchScreensProgram : public testing::Test {
 TEST_F(SearchScreensProgram, HelpTellsEveryOption) {
   EXPECT_EQ(run("--help"), 0);
   for (const char* word : {"PARAMETERS", "CLASS", "QUALITY", "MODE", "--seconds", "--tries",
-                           "--seed", "--shapes-only", "Exit status"}) {
+                           "--seed", "--shapes-only", "--robust", "Exit status"}) {
     EXPECT_NE(out().find(word), std::string::npos) << word;
   }
   EXPECT_EQ(errors(), "");
@@ -69,6 +69,16 @@ TEST_F(SearchScreensProgram, TheBetterLineIsOneForTheParameterFile) {
   ASSERT_EQ(read.screens.size(), 5U);
   EXPECT_NE(read.screens[4], parsed(text).screens[4]);
 }
+
+#ifndef GDI_SLOW_BUILD
+TEST_F(SearchScreensProgram, ARobustSearchTellsItsScoreAndJ) {
+  ASSERT_EQ(run("small.conf plain Fast Mono --robust --tries 2"), 0) << errors();
+  EXPECT_NE(errors().find("0 tries, score "), std::string::npos) << errors();
+  const std::string found = out();
+  EXPECT_NE(found.find(", 2 tries: score "), std::string::npos) << found;
+  EXPECT_NE(found.find(" after, J "), std::string::npos) << found;
+}
+#endif
 
 TEST_F(SearchScreensProgram, LinesThatCannotBeWrittenAreTold) {
   EXPECT_EQ(run("small.conf plain Fast Mono --tries 1", "/dev/full"), 2);

@@ -4,6 +4,7 @@
 #include "tools/searchscreens/search.h"
 
 #include <algorithm>
+#include <limits>
 #include <string>
 #include <vector>
 
@@ -11,6 +12,7 @@
 
 #include "tests/searchscreens/small_screens.h"
 #include "tools/searchscreens/Page.h"
+#include "tools/searchscreens/Score.h"
 #include "tools/searchscreens/rules.h"
 
 namespace gdi::searchscreens {
@@ -62,6 +64,25 @@ TEST_F(Search, FindsABetterScreenThatKeepsTheRules) {
   ASSERT_EQ(searched.found.screens.size(), 1U);
   EXPECT_DOUBLE_EQ(Page(task()).with(0, searched.found.screens[0]).j(), searched.found.after);
 }
+
+TEST_F(Search, WithoutRivalsTheScoreIsJ) {
+  const Found found = search("Mono", tries(4)).found;
+  EXPECT_EQ(found.j, found.after);
+}
+
+#ifndef GDI_SLOW_BUILD
+TEST_F(Search, OfRobustScreensLowersTheirScore) {
+  Limits limits = tries(4);
+  limits.robust = true;
+  const Found found = search("Mono", limits).found;
+  EXPECT_LT(found.after, found.before);
+  const Page page = Page(task()).with(0, found.screens.at(0));
+  EXPECT_DOUBLE_EQ(found.j, page.j());
+  Score score(*task().conditions, screenquality::rivalsOf(*task().conditions, 1, false));
+  EXPECT_NEAR(score.of(page, found.j, std::numeric_limits<double>::infinity()), found.after, 1e-9);
+  EXPECT_GT(found.after, found.j);
+}
+#endif
 
 TEST_F(Search, TellsOfTheStartAndOfEachBetterScreen) {
   const Searched searched = search("Mono", tries(12));

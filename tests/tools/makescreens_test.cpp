@@ -51,11 +51,11 @@ class MakeScreens : public testing::Test {
 
 constexpr const char* kTiny =
     "quality Fast 1\nclass plain 0.58 0.42 0.055 1.1 0.035 0.16\npaper Bond plain\n"
-    "screen plain Fast cyan    14 2 -3 4 1 0.01 0.013 20 0 6 1 1 0 0 1 0 0 2 3\n"
-    "screen plain Fast magenta 14 3 2 1 -4 0.01 0.013 20 0 6 1 1 0 0 1 0 0 2 3\n"
-    "screen plain Fast yellow  14 3 -1 -2 -4 0.01 0.013 20 0 6 1 1 0 0 1 0 0 2 3\n"
-    "screen plain Fast black   14 1 3 4 -2 0.01 0.013 20 0 6 1 1 0 0 1 0 0 2 3\n"
-    "screen plain Fast mono    20 4 -2 -2 -4 0.01 0.013 20 0 6 1 1 0 0 1 0 0 2 3\n";
+    "screen plain Fast cyan    14 2 -3 4 1 0.01 0.013 20 0 6 1 1 0 0 1 0 0 2 3 1\n"
+    "screen plain Fast magenta 14 3 2 1 -4 0.01 0.013 20 0 6 1 1 0 0 1 0 0 2 3 1\n"
+    "screen plain Fast yellow  14 3 -1 -2 -4 0.01 0.013 20 0 6 1 1 0 0 1 0 0 2 3 1\n"
+    "screen plain Fast black   14 1 3 4 -2 0.01 0.013 20 0 6 1 1 0 0 1 0 0 2 3 1\n"
+    "screen plain Fast mono    20 4 -2 -2 -4 0.01 0.013 20 0 6 1 1 0 0 1 0 0 2 3 1\n";
 
 TEST_F(MakeScreens, WritesTheListAndEveryScreen) {
   EXPECT_EQ(run(writeParameters(kTiny) + ' ' + (folder_ / "out").string()), 0) << error_;

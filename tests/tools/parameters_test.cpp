@@ -19,14 +19,14 @@ constexpr std::string_view kGood =
     "paper Bond plain\n"
     "start black 0.5 0.25\n"
     "\n"
-    "screen plain Fast cyan    14 2 -3 4 1   0.01 0.013 50 0   6 1 1 0 0 1 0 0 2 3\n"
-    "screen plain Fast magenta 14 3 2 1 -4   0.01 0.013 50 0   6 1 1 0 0 1 0 0 2 3\n"
-    "screen plain Fast yellow  14 3 -1 -2 -4 0.01 0.013 50 0   6 1 1 0 0 1 0 0 2 3\n"
-    "screen plain Fast black   14 1 3 4 -2   0.01 0.013 50 0.5 6 1 1 0 0 1 0 0 2 3  # a remark\n"
-    "screen plain Fast mono    20 4 -2 -2 -4 0.5 0 50 1 4 1.5 0.8 -0.1 0 0.7 0.2 0.3 1 4\n";
+    "screen plain Fast cyan    14 2 -3 4 1   0.01 0.013 50 0   6 1 1 0 0 1 0 0 2 3 1\n"
+    "screen plain Fast magenta 14 3 2 1 -4   0.01 0.013 50 0   6 1 1 0 0 1 0 0 2 3 1\n"
+    "screen plain Fast yellow  14 3 -1 -2 -4 0.01 0.013 50 0   6 1 1 0 0 1 0 0 2 3 1\n"
+    "screen plain Fast black   14 1 3 4 -2   0.01 0.013 50 0.5 6 1 1 0 0 1 0 0 2 3 1  # a remark\n"
+    "screen plain Fast mono    20 4 -2 -2 -4 0.5 0 50 1 4 1.5 0.8 -0.1 0 0.7 0.2 0.3 1 4 2.5\n";
 
 // What follows a lattice whose cells are alike.
-constexpr std::string_view kPlain = " 0.01 0.013 50 0 6 1 1 0 0 1 0 0 2 3";
+constexpr std::string_view kPlain = " 0.01 0.013 50 0 6 1 1 0 0 1 0 0 2 3 1";
 
 std::string errorOf(std::string_view text) {
   std::string error;
@@ -88,6 +88,7 @@ TEST(Parameters, AScreenSaysHowItsDotsAndItsHolesGrow) {
   EXPECT_DOUBLE_EQ(screen.growth.holes.pairs, 0.3);
   EXPECT_EQ(screen.growth.leastDot, 1);
   EXPECT_EQ(screen.growth.leastHole, 4);
+  EXPECT_DOUBLE_EQ(screen.gradualWeight, 2.5);
 }
 
 TEST(Parameters, VariationMayBeStated) {
@@ -119,6 +120,11 @@ TEST(Parameters, ANumberOutOfRangeOrWithTextBehindItIsRefused) {
   EXPECT_EQ(errorWith(1, "quality Fast 99999999999"),
             "screens.conf:1: depth \"99999999999\" is no number of 1 to 8");
   EXPECT_EQ(errorWith(1, "quality Fast 3"), "screens.conf:1: depth is none of 1, 2, 4 and 8");
+}
+
+TEST(Parameters, AWeightBeyond100IsRefused) {
+  EXPECT_EQ(errorWith(6, "screen plain Fast cyan 14 2 -3 4 1 0 0 50 0 6 1 1 0 0 1 0 0 2 3 101"),
+            "screens.conf:6: gradual weight \"101\" is no number of 0 to 100");
 }
 
 TEST(Parameters, AnUnknownReferenceIsRefused) {
@@ -153,15 +159,15 @@ TEST(Parameters, ALatticeWithoutAreaOrWithTinyCellsIsRefused) {
 
 TEST(Parameters, ATileTooSmallForTheLevelsOrTooLargeIsRefused) {
   // 2 x 8 cells of 14 pixels: 14 x 14 pixels are 196 units.
-  EXPECT_EQ(errorWith(6, "screen plain Fast cyan 14 2 -3 4 1 0 0 8 0 6 1 1 0 0 1 0 0 2 3"),
+  EXPECT_EQ(errorWith(6, "screen plain Fast cyan 14 2 -3 4 1 0 0 8 0 6 1 1 0 0 1 0 0 2 3 1"),
             "screens.conf:6: the tile has only 196 units of output, fewer than the 255 levels");
-  EXPECT_EQ(errorWith(6, "screen plain Fast cyan 14 2 -3 4 1 0 0 1000 0 6 1 1 0 0 1 0 0 2 3"),
+  EXPECT_EQ(errorWith(6, "screen plain Fast cyan 14 2 -3 4 1 0 0 1000 0 6 1 1 0 0 1 0 0 2 3 1"),
             "screens.conf:6: the tile has more than 4096 pixels");
 }
 
 TEST(Parameters, PairsThatTheTileCannotRepeatAreRefused) {
   // A tile of one cell, and of 3 by 1: of three cells in a row two neighbours would be alike.
-  EXPECT_EQ(errorWith(6, "screen plain Fast cyan 16 1 0 0 1 0 0 1 0 6 1 1 0 0.1 1 0 0 2 3"),
+  EXPECT_EQ(errorWith(6, "screen plain Fast cyan 16 1 0 0 1 0 0 1 0 6 1 1 0 0.1 1 0 0 2 3 1"),
             "screens.conf:6: the tile holds no whole pairs of cells: PAIRS has to be 0");
 }
 

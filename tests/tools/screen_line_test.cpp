@@ -48,9 +48,10 @@ TEST(ScreenLine, HasTheColumnsOfTheParameterFile) {
   screen.leastCells = 28;
   screen.softEdge = 0.104;
   screen.growth = {28.07, 4.0, {1.0, -0.03, 0.0}, {0.5, 0.25, -0.29}, 1, 2};
+  screen.gradualWeight = 1.5;
   EXPECT_EQ(screenLine(names, 0, 0, 4, screen),
             "screen smooth Standard mono     24   3  -4   3   4   0.54  0.721     28 0.104  28.07"
-            "     4     1  -0.03      0   0.5   0.25  -0.29  1  2");
+            "     4     1  -0.03      0   0.5   0.25  -0.29  1  2   1.5");
 }
 
 TEST(ScreenLine, IsReadBackExactly) {
@@ -59,6 +60,7 @@ TEST(ScreenLine, IsReadBackExactly) {
   screen.leastCells = 30;
   screen.softEdge = 1.0 / 3.0;
   screen.growth = {0.1 + 0.2, 1e-7 + 1.0, {1.0 / 7.0, -1.0, 0.0}, {1e-12, 2.0 / 3.0, 0.0}, 16, 1};
+  screen.gradualWeight = 0.7;
   EXPECT_EQ(readBack(screen), screen);
 }
 

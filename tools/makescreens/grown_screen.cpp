@@ -3,6 +3,7 @@
 
 #include "tools/makescreens/grown_screen.h"
 
+#include "tools/makescreens/calm_levels.h"
 #include "tools/printmodel/PrintModel.h"
 
 namespace gdi::makescreens {
@@ -10,16 +11,25 @@ namespace {
 
 using printmodel::PrintModel;
 
-// The paper in the printers that its screens have to serve.
-std::vector<PaperModel> printersFor(const PaperModel& paper, const Variation& variation) {
-  std::vector<PaperModel> printers(3, paper);
-  printers.front().spot -= variation.spot;
-  printers.front().threshold += variation.threshold;
-  printers.back().spot += variation.spot;
-  printers.back().threshold -= variation.threshold;
+// One of the printers that a screen has to serve.
+struct Printer {
+  PrintModel model;
+  double weight;
+};
+
+std::vector<Printer> printersFor(const PaperModel& paper, const Variation& variation,
+                                 double gradualWeight, const printmodel::Tile& tile, int steps) {
+  std::vector<Printer> printers;
+  for (const int blurred : {-1, 0, 1}) {
+    PaperModel printer = paper;
+    printer.spot += blurred * variation.spot;
+    printer.threshold -= blurred * variation.threshold;
+    printers.push_back({PrintModel(printer, tile, steps), 1.0});
+  }
   if (variation.softness > 0.0) {
-    printers.push_back(paper);
-    printers.back().softness = variation.softness;
+    PaperModel printer = paper;
+    printer.softness = variation.softness;
+    printers.push_back({PrintModel(printer, tile, steps), gradualWeight});
   }
   return printers;
 }
@@ -33,10 +43,8 @@ GrownScreen growScreen(const ScreenParameters& screen, int depth, const PaperCla
   result.order =
       growthOrder(screen.lattice, result.tile, steps, screen.softEdge, screen.growth, start);
 
-  std::vector<PrintModel> models;
-  for (const PaperModel& printer : printersFor(paper.model, variation)) {
-    models.emplace_back(printer, result.tile, steps);
-  }
+  const std::vector<Printer> printers =
+      printersFor(paper.model, variation, screen.gradualWeight, result.tile, steps);
   std::vector<std::uint8_t> values(result.tile.size(), 0);
   std::size_t grown = 0;
   const auto printedArea = [&](std::size_t units) {
@@ -44,12 +52,16 @@ GrownScreen growScreen(const ScreenParameters& screen, int depth, const PaperCla
       ++values[result.order[grown]];
     }
     double sum = 0.0;
-    for (const PrintModel& model : models) {
-      sum += model.printedArea(values);
+    double weights = 0.0;
+    for (const Printer& printer : printers) {
+      sum += printer.weight * printer.model.printedArea(values);
+      weights += printer.weight;
     }
-    return sum / static_cast<double>(models.size());
+    return sum / weights;
   };
-  result.levels = unitsOfLevels(result.order.size(), paper.gain, printedArea);
+  const PrintedCurve curve(result.order.size(), printedArea);
+  result.levels =
+      calmLevels(curve, paper.gain, paper.model.solid, unevennessOf(result.tile, result.order));
   return result;
 }
 

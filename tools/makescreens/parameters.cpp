@@ -40,7 +40,7 @@ class Reader {
         {"paper", "NAME CLASS", &Reader::readPaper},
         {"screen",
          "CLASS QUALITY PLANE N A B C D U V CELLS SOFT-EDGE EVENNESS REACH DOT-ELLIPSE DOT-ROUND "
-         "DOT-PAIRS HOLE-ELLIPSE HOLE-ROUND HOLE-PAIRS LEAST-DOT LEAST-HOLE",
+         "DOT-PAIRS HOLE-ELLIPSE HOLE-ROUND HOLE-PAIRS LEAST-DOT LEAST-HOLE GRADUAL",
          &Reader::readScreen},
     }};
     for (const Form& form : kForms) {
@@ -204,7 +204,8 @@ class Reader {
         !readPlane(fields[2], plane) || !readLattice(fields.subspan(3, 7), screen.lattice) ||
         !readNumber("cell count", fields[10], 1, 1024, screen.leastCells) ||
         !readNumber("soft edge", fields[11], 0.0, 1.0, screen.softEdge) ||
-        !readGrowth(fields.subspan(12), screen.growth)) {
+        !readGrowth(fields.subspan(12, 10), screen.growth) ||
+        !readNumber("gradual weight", fields[22], 0.0, 100.0, screen.gradualWeight)) {
       return false;
     }
     return checkTile(screen, parameters_.qualities[quality]) &&

@@ -50,6 +50,7 @@ struct ScreenParameters {
   int leastCells = 1;     // that the tile holds
   double softEdge = 0.0;  // 0 to 1
   GrowthRule growth;
+  double gradualWeight = 1.0;  // of the gradual printer in the tones; the others count 1 each
   bool operator==(const ScreenParameters&) const = default;
 };
 

@@ -69,6 +69,7 @@ std::string screenLine(const Parameters& parameters, std::size_t paperClass, std
   line.shape(screen.growth.holes);
   line.number(screen.growth.leastDot, 2);
   line.number(screen.growth.leastHole, 2);
+  line.number(screen.gradualWeight, 5);
   return line.text();
 }
 

@@ -12,6 +12,7 @@ struct PaperModel {
   double softness = 0.05;   // how gradually toner follows exposure, above 0
   double spread = 0.9;      // standard deviation of the light's spread in the paper, in pixels
   double solid = 0.035;     // reflectance of a solid, 0 <= solid < 1
+  bool operator==(const PaperModel&) const = default;
 };
 
 }  // namespace gdi::printmodel

@@ -7,13 +7,13 @@
 #include <cmath>
 #include <cstddef>
 
+#include "tools/eye/colour.h"
 #include "tools/printmodel/LaserEngine.h"
-#include "tools/screenquality/colour.h"
 
 namespace gdi::screenpictures {
 namespace {
 
-using screenquality::kInks;
+using eye::kInks;
 
 constexpr int kGreys = 16;
 constexpr int kShades = 4;  // of an ink

@@ -21,6 +21,7 @@ struct Conditions {
   double noiseCorrelation = 1.5;  // pixels over which the noise stays alike
   double inches = 12.0;           // from the eye to the paper
   double gain = 0.16;             // by which screens for the paper lift the middle tone's area
+  bool operator==(const Conditions&) const = default;
 };
 
 // The papers that screens are made for, under which all figures compare.

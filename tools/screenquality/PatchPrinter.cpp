@@ -3,10 +3,12 @@
 
 #include "tools/screenquality/PatchPrinter.h"
 
-#include "tools/screenquality/colour.h"
+#include "tools/eye/colour.h"
 
 namespace gdi::screenquality {
 namespace {
+
+using eye::kInks;
 
 // Lets `passed` through the plane's toner too.
 void cover(std::vector<double>& passed, const PrintedScreen& plane, std::size_t level,

@@ -27,7 +27,7 @@ class Spectrum {
   ~Spectrum();
 
   // The variance that a field keeps, its mean left out, when each wave is weakened to its share:
-  // `shares` of the half spectrum as eye.h lays it out.
+  // `shares` of the half spectrum as eye/sight.h lays it out.
   // Requires: one number for each pixel, row by row.
   double varianceSeen(std::span<const double> field, std::span<const double> shares);
 

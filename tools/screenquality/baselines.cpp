@@ -36,12 +36,13 @@ LevelUnits compensatedLevels(const Tile& tile, int steps, const UnitOrder& order
   const printmodel::PrintModel model(paper, tile, steps);
   std::vector<std::uint8_t> values(tile.size(), 0);
   std::size_t unit = 0;
-  return makescreens::nearestUnits(order.size(), gain, [&](std::size_t units) {
+  const makescreens::PrintedCurve curve(order.size(), [&](std::size_t units) {
     for (; unit < units; ++unit) {
       ++values[order[unit]];
     }
     return model.printedArea(values);
   });
+  return makescreens::nearestUnits(curve, gain);
 }
 
 // All pixels take their first step, then all their second.

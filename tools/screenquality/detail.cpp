@@ -7,14 +7,18 @@
 #include <cstddef>
 #include <numbers>
 
+#include "tools/eye/colour.h"
+#include "tools/eye/sight.h"
 #include "tools/printmodel/LaserEngine.h"
 #include "tools/printmodel/PaperLight.h"
 #include "tools/screenquality/Spectrum.h"
-#include "tools/screenquality/colour.h"
-#include "tools/screenquality/eye.h"
 
 namespace gdi::screenquality {
 namespace {
+
+using eye::lightness;
+using eye::lightnessSight;
+using eye::Sight;
 
 constexpr int kQuarter = kDetailSide / 2;
 constexpr int kBorder = 32;  // pixels left out, where the image's other side shines in

@@ -8,13 +8,13 @@
 #include <span>
 #include <vector>
 
+#include "tools/eye/colour.h"
+#include "tools/eye/sight.h"
 #include "tools/printmodel/LaserEngine.h"
 #include "tools/printmodel/PaperLight.h"
 #include "tools/screenquality/Spectrum.h"
-#include "tools/screenquality/colour.h"
 #include "tools/screenquality/detail.h"
 #include "tools/screenquality/error_diffusion.h"
-#include "tools/screenquality/eye.h"
 #include "tools/screenquality/grain.h"
 #include "tools/screenquality/levels.h"
 #include "tools/screenquality/tones.h"
@@ -22,6 +22,11 @@
 
 namespace gdi::screenquality {
 namespace {
+
+using eye::lightness;
+using eye::lightnessSight;
+using eye::lightnessSlope;
+using eye::noiseSeen;
 
 constexpr int kSide = 512;
 constexpr int kBorder = 32;   // pixels in which the diffusion settles

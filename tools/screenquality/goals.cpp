@@ -18,15 +18,15 @@ struct Goal {
 };
 
 constexpr std::array<Goal, 9> kGoals{{
-    {"plain", "Fast", 1.09, 1.18},
-    {"plain", "Standard", 0.91, 1.07},
-    {"plain", "Fine", 0.88, 1.05},
-    {"rough", "Fast", 1.18, 1.48},
-    {"rough", "Standard", 1.04, 1.44},
-    {"rough", "Fine", 1.01, 1.42},
-    {"smooth", "Fast", 1.06, 1.12},
-    {"smooth", "Standard", 0.88, 0.98},
-    {"smooth", "Fine", 0.84, 0.97},
+    {"plain", "Fast", 1.08, 1.18},
+    {"plain", "Standard", 0.90, 1.06},
+    {"plain", "Fine", 0.87, 1.05},
+    {"rough", "Fast", 1.16, 1.45},
+    {"rough", "Standard", 1.02, 1.42},
+    {"rough", "Fine", 0.99, 1.41},
+    {"smooth", "Fast", 1.07, 1.08},
+    {"smooth", "Standard", 0.87, 0.96},
+    {"smooth", "Fine", 0.83, 0.95},
 }};
 
 }  // namespace

@@ -6,11 +6,18 @@
 #include <cmath>
 #include <vector>
 
+#include "tools/eye/colour.h"
 #include "tools/screenquality/Spectrum.h"
-#include "tools/screenquality/colour.h"
 #include "tools/screenquality/levels.h"
 
 namespace gdi::screenquality {
+
+using eye::kCoarse;
+using eye::kDotsPerInch;
+using eye::lightness;
+using eye::lightnessSight;
+using eye::lightnessSlope;
+using eye::noiseSeen;
 
 double Grain::whole() const {
   return std::hypot(pattern, noise);

@@ -4,11 +4,13 @@
 // What unevenness of flat tints of one ink the eye sees.
 #pragma once
 
+#include "tools/eye/sight.h"
 #include "tools/screenquality/Conditions.h"
 #include "tools/screenquality/PrintedScreen.h"
-#include "tools/screenquality/eye.h"
 
 namespace gdi::screenquality {
+
+using eye::Sight;
 
 // All in L*, root mean squares over the judged levels.
 struct Grain {
@@ -21,8 +23,6 @@ struct Grain {
 
 // A printed area's reflectance changes by more than its toner: light spreads in the paper.
 constexpr double kNoiseGain = 1.11;
-// Below so many cycles an inch a pattern is coarse.
-constexpr double kCoarse = 30.0;
 
 // `sight` with all that is not coarse taken out.
 Sight coarseSight(const Tile& field, Sight sight);

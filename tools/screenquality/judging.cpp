@@ -4,6 +4,7 @@
 #include "tools/screenquality/judging.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include "tools/samplepages/flat_repeat.h"
 #include "tools/screenquality/diffused_quality.h"
@@ -100,27 +101,26 @@ std::int64_t repeatOf(const ScreenSet& set) {
   return most;
 }
 
+std::vector<MadeBaseline> baselinesFor(const Conditions& conditions, int depth) {
+  std::vector<MadeBaseline> made(kBaselines.size());
+  inParallel(made.size(), [&](std::size_t i) {
+    const Baseline& baseline = kBaselines.at(i);
+    made[i] = {baseline.name, &conditions, depth,
+               baseline.make((1 << depth) - 1, conditions.paper, conditions.gain)};
+  });
+  return made;
+}
+
 std::vector<MadeBaseline> baselinesFor(std::span<const ScreenSet> sets) {
   std::vector<MadeBaseline> made;
   for (const ScreenSet& set : sets) {
     const bool known = std::ranges::any_of(made, [&](const MadeBaseline& one) {
       return one.conditions == set.conditions && one.depth == set.depth;
     });
-    for (const Baseline& baseline : kBaselines) {
-      if (!known) {
-        made.push_back({baseline.name, set.conditions, set.depth, {}});
-      }
+    if (!known) {
+      std::ranges::move(baselinesFor(*set.conditions, set.depth), std::back_inserter(made));
     }
   }
-  inParallel(made.size(), [&](std::size_t i) {
-    MadeBaseline& one = made[i];
-    for (const Baseline& baseline : kBaselines) {
-      if (baseline.name == one.name) {
-        one.screens =
-            baseline.make((1 << one.depth) - 1, one.conditions->paper, one.conditions->gain);
-      }
-    }
-  });
   return made;
 }
 

@@ -58,7 +58,9 @@ Quality qualityOf(const FourScreens& screens, bool colour, const Conditions& con
 // Words of the band codec after which a flat tint of the set repeats.
 std::int64_t repeatOf(const ScreenSet& set);
 
-// All baselines for each paper class and depth of the sets, once.
+// All baselines for a paper class and a depth. Keeps a pointer to the conditions.
+std::vector<MadeBaseline> baselinesFor(const Conditions& conditions, int depth);
+// For each paper class and depth of the sets, once.
 std::vector<MadeBaseline> baselinesFor(std::span<const ScreenSet> sets);
 
 // Judges the sets on the papers that they are for and, when asked to, the baselines and error

@@ -3,8 +3,8 @@
 
 #include "tools/screenquality/robustness.h"
 
-#include <algorithm>
 #include <cstddef>
+#include <utility>
 
 #include "tools/screenquality/TextTable.h"
 #include "tools/screenquality/parallel.h"
@@ -12,38 +12,12 @@
 namespace gdi::screenquality {
 namespace {
 
-// A screen set or a baseline, judged under one of the conditions.
+// A baseline, judged under one of the conditions.
 struct Trial {
-  const ScreenSet* set;
-  const MadeBaseline* baseline;  // null: the set itself
-  OtherConditions other;
+  std::size_t rival;
+  std::size_t baseline;
   double j = 0.0;
 };
-
-void judgeTrial(Trial& trial) {
-  const Conditions& conditions = trial.other.conditions;
-  trial.j = (trial.baseline == nullptr
-                 ? qualityOf(*trial.set, conditions)
-                 : qualityOf(trial.baseline->screens, trial.set->isColour(), conditions))
-                .composite();
-}
-
-std::vector<Trial> trialsOf(const ScreenSet& set, std::span<const MadeBaseline> made) {
-  std::vector<Trial> trials;
-  for (const OtherConditions& other : otherConditions(*set.conditions)) {
-    // In colour the engine's noise is told beside J alone.
-    if (set.isColour() && other.conditions.noise != set.conditions->noise) {
-      continue;
-    }
-    trials.push_back({&set, nullptr, other});
-    for (const MadeBaseline& baseline : made) {
-      if (baseline.conditions == set.conditions && baseline.depth == set.depth) {
-        trials.push_back({&set, &baseline, other});
-      }
-    }
-  }
-  return trials;
-}
 
 }  // namespace
 
@@ -64,39 +38,63 @@ std::vector<OtherConditions> otherConditions(const Conditions& nominal) {
   return all;
 }
 
-std::vector<Standing> standingsOf(std::span<const ScreenSet> sets) {
-  const std::vector<MadeBaseline> made = baselinesFor(sets);
-  std::vector<Trial> trials;
-  for (const ScreenSet& set : sets) {
-    std::ranges::move(trialsOf(set, made), std::back_inserter(trials));
-  }
-  inParallel(trials.size(), [&](std::size_t i) { judgeTrial(trials[i]); });
-  std::vector<Standing> standings;
-  for (const Trial& trial : trials) {
-    if (trial.baseline == nullptr) {
-      standings.push_back({trial.set, trial.other.name, trial.j, 0.0, ""});
-    } else if (Standing& standing = standings.back();
-               standing.best.empty() || trial.j < standing.bestJ) {
-      standing.bestJ = trial.j;
-      standing.best = trial.baseline->name;
+std::vector<Rival> rivalsOf(const Conditions& nominal, int depth, bool colour) {
+  std::vector<Rival> rivals;
+  for (const OtherConditions& other : otherConditions(nominal)) {
+    if (!colour || other.conditions.noise == nominal.noise) {
+      rivals.push_back({other, "", 0.0});
     }
   }
+  const std::vector<MadeBaseline> made = baselinesFor(nominal, depth);
+  std::vector<Trial> trials;
+  for (std::size_t rival = 0; rival < rivals.size(); ++rival) {
+    for (std::size_t baseline = 0; baseline < made.size(); ++baseline) {
+      trials.push_back({rival, baseline});
+    }
+  }
+  inParallel(trials.size(), [&](std::size_t i) {
+    Trial& trial = trials[i];
+    trial.j = qualityOf(made[trial.baseline].screens, colour, rivals[trial.rival].other.conditions)
+                  .composite();
+  });
+  for (const Trial& trial : trials) {
+    Rival& rival = rivals[trial.rival];
+    if (rival.baseline.empty() || trial.j < rival.j) {
+      rival.baseline = made[trial.baseline].name;
+      rival.j = trial.j;
+    }
+  }
+  return rivals;
+}
+
+std::vector<Standing> standingsOf(std::span<const ScreenSet> sets) {
+  std::vector<Standing> standings;
+  for (const ScreenSet& set : sets) {
+    for (Rival& rival : rivalsOf(*set.conditions, set.depth, set.isColour())) {
+      standings.push_back({&set, std::move(rival), 0.0});
+    }
+  }
+  inParallel(standings.size(), [&](std::size_t i) {
+    Standing& standing = standings[i];
+    standing.j = qualityOf(*standing.set, standing.rival.other.conditions).composite();
+  });
   return standings;
 }
 
 void writeStandings(std::ostream& out, std::span<const Standing> standings) {
   TextTable table({"set", "condition", "best baseline", "its J", "J", "share"}, 3);
   for (const Standing& standing : standings) {
-    table.add({standing.set->title(), standing.condition, standing.best, figure(standing.bestJ),
-               figure(standing.j), figure(standing.j / standing.bestJ)});
+    const Rival& rival = standing.rival;
+    table.add({standing.set->title(), rival.other.name, rival.baseline, figure(rival.j),
+               figure(standing.j), figure(standing.j / rival.j)});
   }
   table.write(out);
   bool allAhead = true;
   for (const Standing& standing : standings) {
     if (!standing.isAhead()) {
       allAhead = false;
-      out << standing.set->title() << ": behind " << standing.best << " under "
-          << standing.condition << '\n';
+      out << standing.set->title() << ": behind " << standing.rival.baseline << " under "
+          << standing.rival.other.name << '\n';
     }
   }
   if (allAhead) {

@@ -22,17 +22,26 @@ struct OtherConditions {
 // softness, the noise, the distance.
 std::vector<OtherConditions> otherConditions(const Conditions& nominal);
 
-// A set and the best baseline under one of them.
-struct Standing {
-  const ScreenSet* set = nullptr;
-  std::string condition;
+// The best baseline under one of them.
+struct Rival {
+  OtherConditions other;
+  std::string baseline;
   double j = 0.0;
-  double bestJ = 0.0;
-  std::string best;  // the baseline's name
-  [[nodiscard]] bool isAhead() const { return j <= bestJ; }
 };
 
-// Set by set, all conditions of each. Screens and baselines stay those made for the nominal paper.
+// Under each of otherConditions, of baselines made for the nominal ones. Of colour pages without
+// the conditions of noise, which is told beside their J alone.
+std::vector<Rival> rivalsOf(const Conditions& nominal, int depth, bool colour);
+
+// A set beside its rival.
+struct Standing {
+  const ScreenSet* set = nullptr;
+  Rival rival;
+  double j = 0.0;
+  [[nodiscard]] bool isAhead() const { return j <= rival.j; }
+};
+
+// Set by set, all conditions of each. The screens stay those made for the nominal paper.
 std::vector<Standing> standingsOf(std::span<const ScreenSet> sets);
 
 // A line a standing, then where sets do not stay ahead.

@@ -6,14 +6,24 @@
 #include <cmath>
 #include <vector>
 
+#include "tools/eye/colour.h"
+#include "tools/eye/sight.h"
 #include "tools/screenquality/Spectrum.h"
-#include "tools/screenquality/colour.h"
-#include "tools/screenquality/eye.h"
 #include "tools/screenquality/grain.h"
 #include "tools/screenquality/window.h"
 
 namespace gdi::screenquality {
 namespace {
+
+using eye::chromaSight;
+using eye::kInks;
+using eye::Lab;
+using eye::labOf;
+using eye::labSlopes;
+using eye::lightnessSight;
+using eye::NoiseSeen;
+using eye::noiseSeen;
+using eye::Rgb;
 
 // How the planes lie, the same in every run (a linear congruence of 32 bits).
 std::vector<Shifts> shiftsOf(int registrations) {
@@ -157,7 +167,7 @@ Superposition superpositionOf(const PrintedPlanes& planes, const Conditions& con
   const PatchPrinter printer(planes, conditions.paper.spread);
   const NoiseSeen noise = noiseSeen(conditions.noiseCorrelation, conditions.inches);
   const std::vector<Shifts> all = shiftsOf(registrations);
-  PatchEye eye(conditions.inches);
+  PatchEye patchEye(conditions.inches);
   Variances sum;
   double noiseSquares = 0.0;
   double registrationSquares = 0.0;
@@ -172,7 +182,7 @@ Superposition superpositionOf(const PrintedPlanes& planes, const Conditions& con
       }
       colours.push_back(labOf(mean));
       noiseSquares += noiseVariance(planes, conditions, patch, mean, noise);
-      const Variances seen = eye.variancesSeen(light, mean);
+      const Variances seen = patchEye.variancesSeen(light, mean);
       sum.pattern += seen.pattern;
       sum.coarse += seen.coarse;
     }

@@ -9,13 +9,15 @@
 #include <cstddef>
 #include <numeric>
 
+#include "tools/eye/colour.h"
 #include "tools/printmodel/LaserEngine.h"
 #include "tools/printmodel/PaperLight.h"
-#include "tools/screenquality/colour.h"
 #include "tools/screenquality/levels.h"
 
 namespace gdi::screenquality {
 namespace {
+
+using eye::lightness;
 
 // The mean reflectance of a level's tile, printed by that engine.
 double reflectanceOf(const Screen& screen, const printmodel::LaserEngine& engine,

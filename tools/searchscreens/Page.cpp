@@ -94,6 +94,21 @@ double Page::j() const {
                            : planes_.front()->alone.composite();
 }
 
+double Page::jUnder(const Conditions& conditions) const {
+  if (task_->isColour()) {
+    screenquality::PlaneScreens screens{};
+    for (std::size_t place = 0; place < screens.size(); ++place) {
+      screens.at(place) = &planes_.at(place)->screen;
+    }
+    return screenquality::colourQuality(screens, conditions).composite();
+  }
+  const Plane& plane = *planes_.front();
+  const bool samePrint = conditions.paper == task_->conditions->paper;
+  return (samePrint ? screenquality::monoQuality(plane.print, conditions)
+                    : screenquality::monoQuality(plane.screen, conditions))
+      .composite();
+}
+
 double Page::quickJ() const {
   return task_->isColour() ? colourJ(screenquality::superpositionOf(
                                  prints(), *task_->conditions, fewPatches(), kFewRegistrations))

@@ -28,6 +28,8 @@ class Page {
   [[nodiscard]] double j() const;
   // About J, sooner: of a colour page on half the patches and a third of the registrations.
   [[nodiscard]] double quickJ() const;
+  // J by the whole measure under other conditions.
+  [[nodiscard]] double jUnder(const Conditions& conditions) const;
   // The square of J without what comes of planes on each other; of a mono page, all of it.
   [[nodiscard]] double ownSquares() const;
 

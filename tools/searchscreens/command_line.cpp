@@ -38,6 +38,8 @@ std::variant<CommandLine, int> readCommandLine(std::vector<std::string> words, s
       ->option_text("N");
   app.add_option("--seed", line.limits.seed, "What chance begins with (1)")->option_text("N");
   app.add_flag("--shapes-only", line.limits.shapesOnly, "Keep the lattices");
+  app.add_flag("--robust", line.limits.robust,
+               "Let no baseline win in other printers and at other distances; slower");
   if (const auto status = cli::parseWords(app, std::move(words), kUnusable, out, errors)) {
     return *status;
   }

@@ -104,15 +104,20 @@ void newLeastHole(ScreenParameters& screen, Random& random) {
   screen.growth.leastHole = random.whole(1, 5);
 }
 
+void scaleGradualWeight(ScreenParameters& screen, Random& random) {
+  const double weight = screen.gradualWeight * std::exp(0.4 * random.normal());
+  screen.gradualWeight = inRange(weight, 0.1, 20.0);
+}
+
 using Move = void (*)(ScreenParameters&, Random&);
 
 // Those of the lattice first, that of the soft edge last. Some stand twice, to come more often.
 constexpr std::size_t kLatticeMoves = 3;
-constexpr std::array<Move, 19> kMoves{stepCoefficient, stepPeriod,    newLattice,    newPhaseU,
-                                      newPhaseV,       scaleCells,    scaleEvenness, scaleReach,
-                                      moveEllipse,     moveEllipse,   moveRoundness, moveRoundness,
-                                      movePairs,       movePairs,     likenHoles,    newLeastDot,
-                                      newLeastHole,    scaleEvenness, moveSoftEdge};
+constexpr std::array<Move, 20> kMoves{
+    stepCoefficient, stepPeriod,    newLattice,    newPhaseU,          newPhaseV,
+    scaleCells,      scaleEvenness, scaleReach,    moveEllipse,        moveEllipse,
+    moveRoundness,   moveRoundness, movePairs,     movePairs,          likenHoles,
+    newLeastDot,     newLeastHole,  scaleEvenness, scaleGradualWeight, moveSoftEdge};
 
 }  // namespace
 

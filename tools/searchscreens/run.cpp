@@ -22,10 +22,19 @@ std::string fixed(double number, int digits) {
   return text.str();
 }
 
+const char* scoreName(const Limits& limits) {
+  return limits.robust ? "score" : "J";
+}
+
 void writeFound(std::ostream& out, const CommandLine& line, const Task& task, const Found& found) {
   out << "# searchscreens " << line.paperClass << ' ' << line.quality << ' ' << line.mode
-      << ", seed " << line.limits.seed << ", " << found.tries << " tries: J "
-      << fixed(found.before, 4) << " before, " << fixed(found.after, 4) << " after\n";
+      << ", seed " << line.limits.seed << ", " << found.tries
+      << " tries: " << scoreName(line.limits) << ' ' << fixed(found.before, 4) << " before, "
+      << fixed(found.after, 4) << " after";
+  if (line.limits.robust) {
+    out << ", J " << fixed(found.j, 4);
+  }
+  out << '\n';
   for (std::size_t place = 0; place < task.planes.size(); ++place) {
     out << makescreens::screenLine(*task.parameters, task.paperClass, task.quality,
                                    task.planes[place], found.screens[place])
@@ -55,8 +64,9 @@ int run(const CommandLine& line, std::ostream& out, std::ostream& errors) {
   if (!task) {
     return refuse(line.parameters.string() + ": " + problem);
   }
-  const Found found = search(*task, line.limits, [&errors](double seconds, long tries, double j) {
-    errors << fixed(seconds, 0) << " s, " << tries << " tries, J " << fixed(j, 4) << std::endl;
+  const Found found = search(*task, line.limits, [&](double seconds, long tries, double score) {
+    errors << fixed(seconds, 0) << " s, " << tries << " tries, " << scoreName(line.limits) << ' '
+           << fixed(score, 4) << std::endl;
   });
   writeFound(out, line, *task, found);
   if (!out.flush()) {

@@ -8,22 +8,25 @@
 #include <chrono>
 #include <cmath>
 #include <cstddef>
+#include <limits>
 #include <utility>
 
 #include "tools/searchscreens/Page.h"
 #include "tools/searchscreens/Random.h"
+#include "tools/searchscreens/Score.h"
 #include "tools/searchscreens/moves.h"
 #include "tools/searchscreens/rules.h"
 
 namespace gdi::searchscreens {
 namespace {
 
-constexpr double kWarmth = 0.01;      // at first, as a share of J: how much worse is let through
+constexpr double kWarmth = 0.01;      // at first, a share of the score: how much worse may pass
 constexpr double kCooled = 0.8;       // of the search, after which nothing worse is let through
-constexpr double kAstray = 1.04;      // times the least J: from there the search goes back to it
+constexpr double kAstray = 1.04;      // times the least score: from there the search goes back
 constexpr double kSuperposed = 0.85;  // of what planes make of each other, that one may leave
-constexpr double kSlack = 0.005;      // of J, that the estimate may be off by
-constexpr double kSilence = 10.0;     // seconds
+constexpr double kSlack = 0.005;      // of the score, that the estimate may be off by
+constexpr double kAny = std::numeric_limits<double>::infinity();
+constexpr double kSilence = 10.0;  // seconds
 
 // Where changes are tried on a colour page: yellow is hardly seen.
 constexpr std::array<std::size_t, 10> kPlaces{0, 0, 0, 1, 1, 1, 2, 3, 3, 3};
@@ -42,34 +45,45 @@ struct Scored {
   Page page;
   double quickJ;
   double j;
+  double score;
 };
+
+std::vector<Rival> rivalsIn(const Task& task, const Limits& limits) {
+  return limits.robust ? screenquality::rivalsOf(*task.conditions, task.depth(), task.isColour())
+                       : std::vector<Rival>{};
+}
 
 class Search {
  public:
   Search(const Task& task, const Limits& limits, const Progress& progress)
-      : task_(task), limits_(limits), progress_(progress), random_(limits.seed) {}
+      : task_(task),
+        limits_(limits),
+        progress_(progress),
+        score_(*task.conditions, rivalsIn(task, limits)),
+        random_(limits.seed) {}
 
   Found run() {
     const Page start(task_);
-    Scored current{start, start.quickJ(), start.j()};
-    const double before = current.j;
+    Scored current{start, start.quickJ(), start.j(), 0.0};
+    current.score = score_.of(start, current.j, kAny);
+    const double before = current.score;
     Scored best = current;
-    tell(best.j);
+    tell(best.score);
     while (share() < 1.0) {
       if (std::optional<Scored> next = tryOne(current)) {
         current = std::move(*next);
       }
-      if (current.j < best.j) {
+      if (current.score < best.score) {
         best = current;
-        tell(best.j);
+        tell(best.score);
       } else if (watch_.seconds() - told_ > kSilence) {
-        tell(best.j);
+        tell(best.score);
       }
-      if (current.j > kAstray * best.j) {
+      if (current.score > kAstray * best.score) {
         current = best;
       }
     }
-    return {best.page.screens(), before, best.j, tries_};
+    return {best.page.screens(), before, best.score, best.j, tries_};
   }
 
  private:
@@ -83,9 +97,9 @@ class Search {
                : static_cast<double>(tries_) / static_cast<double>(*limits_.tries);
   }
 
-  void tell(double j) {
+  void tell(double score) {
     told_ = watch_.seconds();
-    progress_(told_, tries_, j);
+    progress_(told_, tries_, score);
   }
 
   // A changed page that is better, or worse and let through. Planes on each other take long to
@@ -93,8 +107,9 @@ class Search {
   std::optional<Scored> tryOne(const Scored& current) {
     const auto [place, screen] = candidateFor(current.page.screens());
     ++tries_;
-    const double warmth = kWarmth * current.j * std::max(0.0, 1.0 - share() / kCooled);
-    const double most = current.quickJ + 3.0 * warmth + kSlack * current.j;
+    const double warmth = kWarmth * current.score * std::max(0.0, 1.0 - share() / kCooled);
+    const double raised = current.score - current.j;
+    const double most = current.quickJ + raised + 3.0 * warmth + kSlack * current.score;
     Page page = current.page.with(place, screen);
     const double superposed = current.quickJ * current.quickJ - current.page.ownSquares();
     if (page.ownSquares() + kSuperposed * std::max(0.0, superposed) > most * most) {
@@ -104,10 +119,11 @@ class Search {
     if (quickJ > most) {
       return std::nullopt;
     }
+    // Worse by x with the chance exp(-x / warmth).
+    const double limit = current.score - warmth * std::log(1.0 - random_.share());
     const double j = page.j();
-    const bool taken =
-        j < current.j || (warmth > 0.0 && random_.share() < std::exp((current.j - j) / warmth));
-    return taken ? std::optional(Scored{std::move(page), quickJ, j}) : std::nullopt;
+    const double score = score_.of(page, j, limit);
+    return score < limit ? std::optional(Scored{std::move(page), quickJ, j, score}) : std::nullopt;
   }
 
   // A changed screen that keeps the rules, and the place where it belongs. There always is one: a
@@ -131,6 +147,7 @@ class Search {
   const Task& task_;
   const Limits& limits_;
   const Progress& progress_;
+  Score score_;
   Random random_;
   Watch watch_;
   long tries_ = 0;

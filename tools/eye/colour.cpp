@@ -1,12 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The rasterToGDI authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "tools/screenquality/colour.h"
+#include "tools/eye/colour.h"
 
 #include <cmath>
 #include <cstddef>
 
-namespace gdi::screenquality {
+namespace gdi::eye {
 namespace {
 
 constexpr double kCubeRootBegins = 216.0 / 24389.0;
@@ -73,4 +73,4 @@ std::array<Rgb, 3> labSlopes(const Rgb& rgb) {
   return slopes;
 }
 
-}  // namespace gdi::screenquality
+}  // namespace gdi::eye

@@ -1,13 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The rasterToGDI authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "tools/screenquality/eye.h"
+#include "tools/eye/sight.h"
 
 #include <algorithm>
 #include <cmath>
 #include <numbers>
 
-namespace gdi::screenquality {
+namespace gdi::eye {
 namespace {
 
 // The oblique effect begins at the first frequency and is whole at the second, in cycles a degree.
@@ -75,4 +75,4 @@ NoiseSeen noiseSeen(double correlation, double inches) {
   return {std::sqrt(seen.lightness / power), std::sqrt(seen.chroma / power)};
 }
 
-}  // namespace gdi::screenquality
+}  // namespace gdi::eye

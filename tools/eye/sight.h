@@ -8,11 +8,14 @@
 
 #include "tools/printmodel/Tile.h"
 
-namespace gdi::screenquality {
+namespace gdi::eye {
 
 using printmodel::Tile;
 
 constexpr double kDotsPerInch = 600.0;
+
+// Cycles an inch below which a pattern counts as coarse.
+constexpr double kCoarse = 30.0;
 
 // Pixels that a degree of the eye's field spans at that distance.
 double pixelsPerDegree(double inches);
@@ -38,4 +41,4 @@ struct NoiseSeen {
 };
 NoiseSeen noiseSeen(double correlation, double inches);
 
-}  // namespace gdi::screenquality
+}  // namespace gdi::eye

@@ -6,7 +6,7 @@
 
 #include <array>
 
-namespace gdi::screenquality {
+namespace gdi::eye {
 
 // L* of a reflectance of 0 to 1.
 double lightness(double reflectance);
@@ -23,4 +23,4 @@ std::array<Rgb, 3> labSlopes(const Rgb& rgb);
 // A solid's reflectance of linear red, green and blue light, for cyan, magenta, yellow, black.
 extern const std::array<Rgb, 4> kInks;
 
-}  // namespace gdi::screenquality
+}  // namespace gdi::eye

@@ -1,14 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The rasterToGDI authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "tools/screenquality/colour.h"
+#include "tools/eye/colour.h"
 
 #include <cmath>
 #include <cstddef>
 
 #include <gtest/gtest.h>
 
-namespace gdi::screenquality {
+namespace gdi::eye {
 namespace {
 
 TEST(Lightness, WhiteIsHundredBlackNothing) {
@@ -96,4 +96,4 @@ TEST(Inks, EachTakesItsComplementsLight) {
 }
 
 }  // namespace
-}  // namespace gdi::screenquality
+}  // namespace gdi::eye

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The rasterToGDI authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "tools/screenquality/eye.h"
+#include "tools/eye/sight.h"
 
 #include <cmath>
 #include <cstddef>
@@ -9,7 +9,7 @@
 
 #include <gtest/gtest.h>
 
-namespace gdi::screenquality {
+namespace gdi::eye {
 namespace {
 
 // The mean of a function over frequencies of -1/2 to 1/2 cycles a pixel, weighted by the power of
@@ -142,4 +142,4 @@ TEST(NoiseSeen, FromFartherAwayLessIsSeen) {
 }
 
 }  // namespace
-}  // namespace gdi::screenquality
+}  // namespace gdi::eye
