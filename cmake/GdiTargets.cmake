@@ -44,9 +44,9 @@ function(gdi_test name)
   add_executable(${name} ${ARG_SOURCES})
   set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
   target_link_libraries(${name} PRIVATE gdi_flags ${ARG_DEPENDS} GTest::gtest GTest::gtest_main)
-  # Tests take longer to compile than to run: no optimisation, and the framework's header once.
+  # Tests take longer to compile than to run: no optimisation, and the usual headers once for all.
   target_compile_options(${name} PRIVATE -O0)
-  target_precompile_headers(${name} PRIVATE <gtest/gtest.h>)
+  target_precompile_headers(${name} REUSE_FROM gdi_test_headers)
   if(GDI_SANITIZE OR GDI_COVERAGE)
     # What computes for long is left out there when other tests run through the same code.
     target_compile_definitions(${name} PRIVATE GDI_SLOW_BUILD)

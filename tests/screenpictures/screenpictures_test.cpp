@@ -40,6 +40,7 @@ Outcome run(const std::string& arguments) {
   return result;
 }
 
+#ifndef GDI_SLOW_BUILD
 TEST(ScreenPicturesProgram, PicturesFitIntoTheDocuments) {
   const test::TemporaryFolder folder;
   const std::filesystem::path pictures = folder.path() / "made" / "screens";
@@ -70,6 +71,7 @@ TEST(ScreenPicturesProgram, PicturesFitIntoTheDocuments) {
   }
   EXPECT_EQ(entries, expected.size());
 }
+#endif
 
 TEST(ScreenPicturesProgram, AFolderWithoutScreensIsTold) {
   const test::TemporaryFolder folder;

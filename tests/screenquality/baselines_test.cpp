@@ -147,6 +147,7 @@ TEST(Baselines, RationalAnglesHaveAnotherScreenOnEachPlane) {
   EXPECT_GE(screens[2].tile.pixels(), 8 * 36);
 }
 
+#ifndef GDI_SLOW_BUILD
 TEST(Baselines, BlueNoiseIsAnotherOnEachPlaneAndCompensated) {
   const FourScreens screens = made("blue noise", 1);
   for (const Screen& screen : screens) {
@@ -157,6 +158,7 @@ TEST(Baselines, BlueNoiseIsAnotherOnEachPlaneAndCompensated) {
   EXPECT_NE(screens[2].outputs, screens[3].outputs);
   expectOnCurve(screens[3]);
 }
+#endif
 
 }  // namespace
 }  // namespace gdi::screenquality

@@ -48,6 +48,7 @@ TEST(Judging, TheWorstSetAgainstItsGoalComesFirst) {
   EXPECT_FALSE(reached.colour);
 }
 
+#ifndef GDI_SLOW_BUILD
 TEST(Judging, BaselinesAreMadeOnceForAClassAndDepth) {
   std::vector sets{validSet(), validSet()};
   sets[1].mode = "Color";
@@ -60,6 +61,7 @@ TEST(Judging, BaselinesAreMadeOnceForAClassAndDepth) {
     }
   }
 }
+#endif
 
 #ifndef GDI_SLOW_BUILD
 TEST(Judging, ASetIsComparedWithTheBestBaselineAndErrorDiffusionIsNone) {

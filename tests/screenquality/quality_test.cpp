@@ -83,6 +83,7 @@ TEST(MonoQuality, BarePaperIsOnlyOffTheCurve) {
   EXPECT_GT(quality.curve, 10.0);
 }
 
+#ifndef GDI_SLOW_BUILD
 TEST(ColourQuality, PlanesTonesCountByHowMuchIsSeenOfThem) {
   const std::array<Screen, 4> screens{uprightLines(4), levelLines(6), uprightLines(9),
                                       levelLines(16)};
@@ -106,6 +107,7 @@ TEST(ColourQuality, PlanesTonesCountByHowMuchIsSeenOfThem) {
   EXPECT_NEAR(quality.steps, std::sqrt(steps), 1e-9);
   EXPECT_GT(quality.grain, quality.coarse);
 }
+#endif
 
 }  // namespace
 }  // namespace gdi::screenquality
