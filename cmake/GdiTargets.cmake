@@ -38,7 +38,8 @@ function(gdi_library name)
   target_link_libraries(gdi_${name} PUBLIC gdi_flags ${ARG_DEPENDS})
 endfunction()
 
-# gdi_test(NAME SOURCES file... DEPENDS target...): one GoogleTest program, its tests found by CTest.
+# gdi_test(NAME SOURCES file... DEPENDS target...): one GoogleTest program, its tests found by CTest,
+# in instrumented builds the program as a whole.
 function(gdi_test name)
   cmake_parse_arguments(ARG "" "" "SOURCES;DEPENDS" ${ARGN})
   add_executable(${name} ${ARG_SOURCES})
@@ -50,7 +51,11 @@ function(gdi_test name)
   if(GDI_SANITIZE OR GDI_COVERAGE)
     # What computes for long is left out there when other tests run through the same code.
     target_compile_definitions(${name} PRIVATE GDI_SLOW_BUILD)
+    # A process for each test would take longer to start than the tests take.
+    add_test(NAME ${name} COMMAND ${name} --gtest_brief=1)
+    set_tests_properties(${name} PROPERTIES TIMEOUT 600)
+  else()
+    gtest_discover_tests(${name} TEST_PREFIX "${name}." DISCOVERY_TIMEOUT 60
+                         PROPERTIES TIMEOUT 120)
   endif()
-  gtest_discover_tests(${name} TEST_PREFIX "${name}." DISCOVERY_TIMEOUT 60
-                       PROPERTIES TIMEOUT 120)
 endfunction()
