@@ -38,8 +38,8 @@ function(gdi_library name)
   target_link_libraries(gdi_${name} PUBLIC gdi_flags ${ARG_DEPENDS})
 endfunction()
 
-# gdi_test(NAME SOURCES file... DEPENDS target...): one GoogleTest program, its tests found by CTest,
-# in instrumented builds the program as a whole.
+# gdi_test(NAME SOURCES file... DEPENDS target...): one GoogleTest program, its tests found by
+# CTest; in instrumented builds the program as a whole.
 function(gdi_test name)
   cmake_parse_arguments(ARG "" "" "SOURCES;DEPENDS" ${ARGN})
   add_executable(${name} ${ARG_SOURCES})
