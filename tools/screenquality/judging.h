@@ -60,7 +60,7 @@ std::int64_t repeatOf(const ScreenSet& set);
 
 // All baselines for a paper class and a depth. Keeps a pointer to the conditions.
 std::vector<MadeBaseline> baselinesFor(const Conditions& conditions, int depth);
-// For each paper class and depth of the sets, once.
+// For each paper class and depth of the sets, once; those of a class and depth stand together.
 std::vector<MadeBaseline> baselinesFor(std::span<const ScreenSet> sets);
 
 // Judges the sets on the papers that they are for and, when asked to, the baselines and error

@@ -3,6 +3,7 @@
 
 #include "tools/screenquality/robustness.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <utility>
 
@@ -39,13 +40,17 @@ std::vector<OtherConditions> otherConditions(const Conditions& nominal) {
 }
 
 std::vector<Rival> rivalsOf(const Conditions& nominal, int depth, bool colour) {
+  return rivalsAmong(baselinesFor(nominal, depth), nominal, colour);
+}
+
+std::vector<Rival> rivalsAmong(std::span<const MadeBaseline> made, const Conditions& nominal,
+                               bool colour) {
   std::vector<Rival> rivals;
   for (const OtherConditions& other : otherConditions(nominal)) {
     if (!colour || other.conditions.noise == nominal.noise) {
       rivals.push_back({other, "", 0.0});
     }
   }
-  const std::vector<MadeBaseline> made = baselinesFor(nominal, depth);
   std::vector<Trial> trials;
   for (std::size_t rival = 0; rival < rivals.size(); ++rival) {
     for (std::size_t baseline = 0; baseline < made.size(); ++baseline) {
@@ -68,9 +73,14 @@ std::vector<Rival> rivalsOf(const Conditions& nominal, int depth, bool colour) {
 }
 
 std::vector<Standing> standingsOf(std::span<const ScreenSet> sets) {
+  const std::vector<MadeBaseline> made = baselinesFor(sets);
   std::vector<Standing> standings;
   for (const ScreenSet& set : sets) {
-    for (Rival& rival : rivalsOf(*set.conditions, set.depth, set.isColour())) {
+    const auto first = std::ranges::find_if(made, [&](const MadeBaseline& one) {
+      return one.conditions == set.conditions && one.depth == set.depth;
+    });
+    const std::span<const MadeBaseline> own(first, kBaselines.size());
+    for (Rival& rival : rivalsAmong(own, *set.conditions, set.isColour())) {
       standings.push_back({&set, std::move(rival), 0.0});
     }
   }

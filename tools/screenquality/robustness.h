@@ -32,6 +32,9 @@ struct Rival {
 // Under each of otherConditions, of baselines made for the nominal ones. Of colour pages without
 // the conditions of noise, which is told beside their J alone.
 std::vector<Rival> rivalsOf(const Conditions& nominal, int depth, bool colour);
+// The same of baselines that are made already, for those conditions and one depth.
+std::vector<Rival> rivalsAmong(std::span<const MadeBaseline> made, const Conditions& nominal,
+                               bool colour);
 
 // A set beside its rival.
 struct Standing {
