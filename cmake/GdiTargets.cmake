@@ -31,7 +31,7 @@ if(GDI_COVERAGE)
   target_link_options(gdi_flags INTERFACE --coverage)
 endif()
 
-# Instrumented builds compile the usual headers once for all libraries, which saves a third of their
+# Sanitizer builds compile the usual headers once for all libraries, which saves a third of their
 # time. The others compile each file with what it includes itself, so that a missing include shows.
 function(gdi_library_headers name)
   file(GENERATE OUTPUT ${CMAKE_CURRENT_BINARY_DIR}/${name}.cpp CONTENT "// Headers alone.\n")
@@ -42,14 +42,14 @@ function(gdi_library_headers name)
     <algorithm> <array> <cmath> <cstdint> <fstream> <functional> <map> <memory>
     <optional> <span> <sstream> <string> <string_view> <vector>)
 endfunction()
-if(GDI_SANITIZE)
+if(GDI_SANITIZE AND NOT GDI_COVERAGE)
   gdi_library_headers(gdi_plain_headers)
   gdi_library_headers(gdi_computing_headers -O2)
 endif()
 
-# gdi_library(NAME [COMPUTES] SOURCES file... [DEPENDS target...]): the static library gdi_NAME of one
-# folder. One that COMPUTES is optimised in all builds: they make the screens, which would take
-# minutes.
+# gdi_library(NAME [COMPUTES] SOURCES file... [DEPENDS target...]): the static library gdi_NAME of
+# one folder. One that COMPUTES is optimised in all builds but that for coverage: without it, making
+# and judging screens takes minutes.
 function(gdi_library name)
   cmake_parse_arguments(ARG "COMPUTES" "" "SOURCES;DEPENDS" ${ARGN})
   add_library(gdi_${name} STATIC ${ARG_SOURCES})
@@ -57,18 +57,24 @@ function(gdi_library name)
   if(ARG_COMPUTES AND NOT GDI_COVERAGE)
     target_compile_options(gdi_${name} PRIVATE -O2)
   endif()
-  if(GDI_SANITIZE AND ARG_COMPUTES)
+  if(NOT TARGET gdi_plain_headers)
+    return()
+  endif()
+  if(ARG_COMPUTES)
     target_precompile_headers(gdi_${name} REUSE_FROM gdi_computing_headers)
-  elseif(GDI_SANITIZE)
+  else()
     target_precompile_headers(gdi_${name} REUSE_FROM gdi_plain_headers)
   endif()
 endfunction()
 
 # gdi_command_line_sources(file...): of the folder's sources those that read a command line with
-# CLI11, whose templates take longest to compile and run once.
+# CLI11, whose templates take longest to compile and run once. Builds that ship stay as packagers
+# tell.
 function(gdi_command_line_sources)
-  set_source_files_properties(${ARGN} PROPERTIES
-    COMPILE_OPTIONS -O0 SKIP_PRECOMPILE_HEADERS ON)
+  if(GDI_SANITIZE)
+    set_source_files_properties(${ARGN} PROPERTIES
+      COMPILE_OPTIONS -O0 SKIP_PRECOMPILE_HEADERS ON)
+  endif()
 endfunction()
 
 # gdi_test(NAME SOURCES file... DEPENDS target...): one GoogleTest program, its tests found by

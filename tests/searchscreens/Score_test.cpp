@@ -32,12 +32,13 @@ TEST(Score, IsJWithoutRivals) {
   EXPECT_EQ(Score(*small.task->conditions, {}).of(Page(*small.task), 1.25, kAny), 1.25);
 }
 
-TEST(Score, OneIsRaisedFrom99To102PercentOfARival) {
+TEST(Score, OneIsRaisedFrom99To106PercentOfARival) {
   EXPECT_EQ(raisedBy(0.5), 0.0);
   EXPECT_EQ(raisedBy(0.99), 0.0);
   EXPECT_NEAR(raisedBy(1.0), 0.1, 1e-12);
-  EXPECT_NEAR(raisedBy(1.02), 0.3, 1e-12);
-  EXPECT_EQ(raisedBy(1.5), raisedBy(1.02));
+  EXPECT_NEAR(raisedBy(1.02), 0.3 + 0.4, 1e-12);
+  EXPECT_NEAR(raisedBy(1.06), 0.7 + 1.2, 1e-12);
+  EXPECT_EQ(raisedBy(1.5), raisedBy(1.06));
 }
 
 TEST(Score, IsRaisedByEachConditionUnderWhichARivalIsStrong) {
@@ -54,13 +55,13 @@ TEST(Score, IsRaisedByEachConditionUnderWhichARivalIsStrong) {
                                   {{"", far}, "", page.jUnder(far) / 1.01},
                                   {{"", near}, "", page.jUnder(near) / 0.5}};
   Score score(nominal, rivals);
-  const double expected = j + 0.1 + 0.2;
+  const double expected = j + 0.1 + 0.4;
   EXPECT_NEAR(score.of(page, j, kAny), expected, 1e-9);
 
   // A look ends where the second rival is found too strong. That one is looked at first from then
   // on, and ends the next look by itself; the score stays.
-  EXPECT_NEAR(score.of(page, j, j + 0.15), j + 0.1 + 0.2, 1e-9);
-  EXPECT_NEAR(score.of(page, j, j + 0.15), j + 0.2, 1e-9);
+  EXPECT_NEAR(score.of(page, j, j + 0.15), j + 0.1 + 0.4, 1e-9);
+  EXPECT_NEAR(score.of(page, j, j + 0.15), j + 0.4, 1e-9);
   EXPECT_NEAR(score.of(page, j, kAny), expected, 1e-9);
 }
 

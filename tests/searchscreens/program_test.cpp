@@ -24,6 +24,7 @@ class SearchScreensProgram : public testing::Test {
   }
   [[nodiscard]] std::string out() const { return program_.out(); }
   [[nodiscard]] std::string errors() const { return program_.errors(); }
+  test::ProgramInFolder& program() { return program_; }
 
  private:
   test::ProgramInFolder program_{GDI_SEARCHSCREENS};
@@ -71,6 +72,15 @@ TEST_F(SearchScreensProgram, TheBetterLineIsOneForTheParameterFile) {
 }
 
 #ifndef GDI_SLOW_BUILD
+TEST_F(SearchScreensProgram, OrdersOfPixelsAreWrittenBelowTheirScreen) {
+  const std::string order =
+      "order  plain  Fast     mono    holes  0  1  2  3  4  5  6  7  8  9 10 11 12 13 14 15 16 17"
+      " 19 18\n";
+  program().folder().write("ordered.conf", smallParameters() + order);
+  ASSERT_EQ(run("ordered.conf plain Fast Mono --tries 1"), 0) << errors();
+  EXPECT_TRUE(out().ends_with(order)) << out();
+}
+
 TEST_F(SearchScreensProgram, ARobustSearchTellsItsScoreAndJ) {
   ASSERT_EQ(run("small.conf plain Fast Mono --robust --tries 2"), 0) << errors();
   EXPECT_NE(errors().find("0 tries, score "), std::string::npos) << errors();

@@ -26,6 +26,13 @@ PrintedCurve straight(std::size_t units) {
           }};
 }
 
+// In one printer alone.
+LevelUnits calmLevelsOf(const PrintedCurve& curve, double gain,
+                        const std::vector<double>& unevenness) {
+  const std::vector<PrinterCurve> alone{{curve, 1.0}};
+  return calmLevels(ToneErrors(alone, gain, kSolid), unevenness);
+}
+
 std::vector<double> even(std::size_t units) {
   std::vector<double> none(units + 1, 0.0);
   return none;
@@ -96,7 +103,7 @@ TEST(Unevenness, SolidsAreEven) {
 }
 
 TEST(CalmLevels, AStraightPrinterDarkensInProportion) {
-  const LevelUnits levels = calmLevels(straight(510), 0.0, kSolid, even(510));
+  const LevelUnits levels = calmLevelsOf(straight(510), 0.0, even(510));
   for (std::size_t level = 0; level < 256; ++level) {
     EXPECT_NEAR(static_cast<double>(levels.at(level)), 2.0 * static_cast<double>(level), 1.0);
   }
@@ -105,7 +112,7 @@ TEST(CalmLevels, AStraightPrinterDarkensInProportion) {
 TEST(CalmLevels, WithAsManyUnitsAsStepsEachLevelIsOneMore) {
   const PrintedCurve dark(
       255, [](std::size_t units) { return std::sqrt(static_cast<double>(units) / 255.0); });
-  const LevelUnits levels = calmLevels(dark, 0.2, kSolid, even(255));
+  const LevelUnits levels = calmLevelsOf(dark, 0.2, even(255));
   for (std::size_t level = 0; level < 256; ++level) {
     EXPECT_EQ(levels.at(level), level);
   }
@@ -116,7 +123,7 @@ TEST(CalmLevels, WithAsManyUnitsAsStepsEachLevelIsOneMore) {
 TEST(CalmLevels, AStateMoreUnevenThanFourUnitsSquaredIsPassedOverForItsNeighbour) {
   std::vector<double> unevenness = even(1020);
   unevenness[400] = 5.0;
-  const LevelUnits levels = calmLevels(straight(1020), 0.0, kSolid, unevenness);
+  const LevelUnits levels = calmLevelsOf(straight(1020), 0.0, unevenness);
   for (std::size_t level = 0; level < 256; ++level) {
     if (level == 100) {
       EXPECT_TRUE(levels.at(level) == 399 || levels.at(level) == 401) << levels.at(level);
@@ -125,12 +132,12 @@ TEST(CalmLevels, AStateMoreUnevenThanFourUnitsSquaredIsPassedOverForItsNeighbour
     }
   }
   unevenness[400] = 3.0;
-  EXPECT_EQ(calmLevels(straight(1020), 0.0, kSolid, unevenness).at(100), 400U);
+  EXPECT_EQ(calmLevelsOf(straight(1020), 0.0, unevenness).at(100), 400U);
 }
 
 TEST(CalmLevels, StayApartWhereThePrinterJumps) {
   const PrintedCurve jump(600, [](std::size_t units) { return units < 300 ? 0.0 : 1.0; });
-  const LevelUnits levels = calmLevels(jump, 0.1, kSolid, even(600));
+  const LevelUnits levels = calmLevelsOf(jump, 0.1, even(600));
   EXPECT_EQ(levels.front(), 0U);
   EXPECT_EQ(levels.back(), 600U);
   for (std::size_t level = 1; level < 256; ++level) {
@@ -140,7 +147,7 @@ TEST(CalmLevels, StayApartWhereThePrinterJumps) {
 
 TEST(CalmLevels, APrinterThatNeverDarkensIsSurvived) {
   const PrintedCurve blank(600, [](std::size_t) { return 0.0; });
-  const LevelUnits levels = calmLevels(blank, 0.1, kSolid, even(600));
+  const LevelUnits levels = calmLevelsOf(blank, 0.1, even(600));
   for (std::size_t level = 1; level < 256; ++level) {
     EXPECT_GT(levels.at(level), levels.at(level - 1));
   }

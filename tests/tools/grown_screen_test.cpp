@@ -3,6 +3,7 @@
 
 #include "tools/makescreens/grown_screen.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
@@ -27,22 +28,31 @@ GrownScreen grown(double gradualWeight, const Variation& variation) {
   return growScreen(screen, 1, kPlain, variation, {});
 }
 
-// How far the gradual printer's tones are from the target, over all levels.
+// How far the gradual printer's tones are from the nearest lifted ones, over all levels.
 double strayInGradualPrinter(const GrownScreen& screen) {
   PaperModel gradual = kPlain.model;
   gradual.softness = kVaried.softness;
   const printmodel::PrintModel printer(gradual, screen.tile, 1);
   std::vector<std::uint8_t> values(screen.tile.size(), 0);
   std::size_t unit = 0;
-  double squares = 0.0;
-  for (int level = 0; level < kLevels; ++level) {
-    for (; unit < screen.levels.at(static_cast<std::size_t>(level)); ++unit) {
+  std::vector<double> areas;
+  for (const std::size_t units : screen.levels) {
+    for (; unit < units; ++unit) {
       ++values[screen.order[unit]];
     }
-    const double stray = printer.printedArea(values) - targetArea(level, kPlain.gain);
-    squares += stray * stray;
+    areas.push_back(printer.printedArea(values));
   }
-  return std::sqrt(squares / kLevels);
+  double least = 1.0;
+  for (int hundredths = -50; hundredths <= 50; ++hundredths) {
+    double squares = 0.0;
+    for (int level = 0; level < kLevels; ++level) {
+      const double stray =
+          areas[static_cast<std::size_t>(level)] - targetArea(level, hundredths / 100.0);
+      squares += stray * stray;
+    }
+    least = std::min(least, std::sqrt(squares / kLevels));
+  }
+  return least;
 }
 
 TEST(GrownScreen, TheMoreTheGradualPrinterCountsTheBetterItsTonesKeep) {
@@ -70,8 +80,11 @@ TEST(GrownScreen, ItsLevelsAreTheCalmOnes) {
   });
   const std::vector<double> unevenness = unevennessOf(screen.tile, screen.order);
   const std::vector<double> none(unevenness.size(), 0.0);
-  EXPECT_EQ(screen.levels, calmLevels(curve, kPlain.gain, kPlain.model.solid, unevenness));
-  EXPECT_NE(screen.levels, calmLevels(curve, kPlain.gain, kPlain.model.solid, none));
+  // A sharper and a blurred printer that vary by nothing are the class's own.
+  const std::vector<PrinterCurve> alike{{curve, 1.0}, {curve, 1.0}, {curve, 1.0}};
+  const ToneErrors errors(alike, kPlain.gain, kPlain.model.solid);
+  EXPECT_EQ(screen.levels, calmLevels(errors, unevenness));
+  EXPECT_NE(screen.levels, calmLevels(errors, none));
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include "tools/makescreens/growth.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <cstdint>
 #include <vector>
 
@@ -146,6 +147,45 @@ TEST(GrowthOrder, TheHolesShapeRulesTheDarkHalfAlone) {
   const std::vector<std::uint32_t> shaped = grownBy(rule);
   EXPECT_EQ(lightHalf(shaped), lightHalf(usual));
   EXPECT_NE(shaped, usual);
+}
+
+// The same cells with no two pixels alike.
+constexpr Lattice kSkew{4, 1, 0, 0, 1, 910, 830};
+
+std::vector<std::uint32_t> grownSkew(const GrowthRule& rule) {
+  return growthOrder(kSkew, kTile, 1, 0.0, rule, {});
+}
+
+// 16 cells, whose pixels of one kind come one after the other.
+std::vector<std::uint32_t> kindOf(const std::vector<std::uint32_t>& order, std::size_t place) {
+  const auto first = order.begin() + static_cast<std::ptrdiff_t>(16 * place);
+  std::vector<std::uint32_t> pixels(first, first + 16);
+  std::sort(pixels.begin(), pixels.end());
+  return pixels;
+}
+
+TEST(GrowthOrder, AnOrderOfDotsOrHolesExchangesTheirPixels) {
+  GrowthRule rule = looseRule();
+  const std::vector<std::uint32_t> plain = grownSkew(rule);
+  ASSERT_EQ(pixelKinds(kSkew, rule.dots), 16U);
+  rule.dots.order = {1, 0, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15};
+  rule.holes.order = {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 15, 14};
+  const std::vector<std::uint32_t> ordered = grownSkew(rule);
+  for (std::size_t place = 0; place < 16; ++place) {
+    const bool exchanged = place < 2 || place > 13;
+    EXPECT_EQ(kindOf(ordered, place), kindOf(plain, exchanged ? place ^ 1U : place)) << place;
+  }
+}
+
+TEST(GrowthOrder, ABegunDotIsGivenThePixelsThatItsOrderPutsFirst) {
+  GrowthRule rule = evenRule();
+  rule.dots.order = {3, 2, 1, 0, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15};
+  const std::vector<std::uint32_t> loose = grownSkew(looseRule());
+  const std::vector<std::uint32_t> ordered = grownSkew(rule);
+  const std::vector<std::uint32_t> third = kindOf(loose, 2);
+  const std::vector<std::uint32_t> fourth = kindOf(loose, 3);
+  EXPECT_TRUE(std::binary_search(fourth.begin(), fourth.end(), ordered[0]));
+  EXPECT_TRUE(std::binary_search(third.begin(), third.end(), ordered[1]));
 }
 
 TEST(GrowthOrder, EllipticDotsHaveJoinedToChainsAtHalf) {

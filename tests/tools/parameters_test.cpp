@@ -178,5 +178,51 @@ TEST(Parameters, AFileThatLacksAWholeKindIsRefusedAtItsEnd) {
             "screens.conf:2: no paper is given");
 }
 
+// Line 6 is cyan's screen, whose cells have 14 pixels.
+std::string ordered(std::string_view order) {
+  return std::string(screenLine("plain Fast cyan 14 2 -3 4 1")).append("\norder ").append(order);
+}
+
+TEST(Parameters, AnOrderTellsThePlacesOfACellsPixels) {
+  std::string text(kGood);
+  text += "order plain Fast mono holes 0 1 3 2 4 5 6 7 8 9 10 11 12 13 14 15 16 17 18 19\n";
+  std::string error;
+  const std::optional<Parameters> read = parseParameters(text, "screens.conf", error);
+  ASSERT_TRUE(read.has_value()) << error;
+  EXPECT_EQ(read->screen(0, 0, 4).growth.holes.order[2], 3);
+  EXPECT_EQ(read->screen(0, 0, 4).growth.holes.order.size(), 20U);
+  EXPECT_TRUE(read->screen(0, 0, 4).growth.dots.order.empty());
+}
+
+TEST(Parameters, AnOrderThatLeavesAPixelOutIsRefused) {
+  EXPECT_EQ(errorWith(6, ordered("plain Fast cyan dots 0 1 2 3 4 5 6 7 8 9 10 11 12")),
+            "screens.conf:7: the order of dots has to name each of 0 to 13 once");
+  EXPECT_EQ(errorWith(6, ordered("plain Fast cyan dots 0 1 2 3 4 5 6 7 8 9 10 11 13 13")),
+            "screens.conf:7: the order of dots has to name each of 0 to 13 once");
+  EXPECT_EQ(errorWith(6, ordered("plain Fast cyan holes 0 1 2 3 4 5 6 7 8 9 10 11 12 14")),
+            "screens.conf:7: the order of holes has to name each of 0 to 13 once");
+  EXPECT_EQ(errorWith(6, ordered("plain Fast cyan holes 0 1 -2")),
+            "screens.conf:7: place \"-2\" is no number of 0 to 9999");
+}
+
+TEST(Parameters, AnOrderNeedsAScreenAndComesOnce) {
+  EXPECT_EQ(errorWith(6, ordered("plain Fast magenta dots 0 1")),
+            "screens.conf:7: this class, quality and plane has no screen yet");
+  EXPECT_EQ(errorWith(6, ordered("plain Fast cyan rings 0 1")),
+            "screens.conf:7: \"rings\" is neither dots nor holes");
+  EXPECT_EQ(errorWith(6, ordered("plain Fast cyan dots")),
+            "screens.conf:7: expected: order CLASS QUALITY PLANE dots|holes PLACE...");
+  EXPECT_EQ(errorWith(6, ordered("plain Fast cyan dots 0 1 2 3 4 5 6 7 8 9 10 11 12 13\n"
+                                 "order plain Fast cyan dots 0 1 2 3 4 5 6 7 8 9 10 11 12 13")),
+            "screens.conf:8: these dots have an order already");
+}
+
+TEST(Parameters, WhereEverySecondDotIsLargerAnOrderNamesThePixelsOfTwoCells) {
+  const std::string paired =
+      "screen plain Fast cyan 14 2 -3 4 1 0.01 0.013 50 0 6 1 1 0 0.1 1 0 0 2 3 1\n";
+  EXPECT_EQ(errorWith(6, paired + "order plain Fast cyan dots 0 1 2 3 4 5 6 7 8 9 10 11 12 13"),
+            "screens.conf:7: the order of dots has to name each of 0 to 27 once");
+}
+
 }  // namespace
 }  // namespace gdi::makescreens

@@ -3,6 +3,8 @@
 
 #include "tools/makescreens/spot.h"
 
+#include <algorithm>
+#include <cstddef>
 #include <cstdint>
 #include <numeric>
 #include <vector>
@@ -172,6 +174,58 @@ TEST(SpotShape, SharesOfAnyShapeAreHalfACellOnAverage) {
   for (const SpotShape& shape : {elliptic(0.7), rounder(0.6), paired(0.4)}) {
     EXPECT_NEAR(Shares(shape).mean(), 0.5, 1e-5);
   }
+}
+
+// A lattice of cells of 5 pixels, all different.
+constexpr Lattice kFives{5, 1, 2, -2, 1, 100, 30};
+constexpr Tile kFive{5, 5};
+
+TEST(SpotOrder, PixelsTakeTheSharesOfThePlacesThatAreNamed) {
+  ASSERT_EQ(pixelKinds(kFives, {}), 5U);
+  const std::vector<std::int64_t> plain = spotShares(kFives, kFive, 1, 0.0, {});
+  std::vector<std::int64_t> rising(plain.begin(), plain.begin() + 5);
+  std::sort(rising.begin(), rising.end());
+  SpotShape shape;
+  shape.order = {0, 3, 1, 2, 4};
+  const std::vector<std::int64_t> ordered = spotShares(kFives, kFive, 1, 0.0, shape);
+  for (std::size_t pixel = 0; pixel < plain.size(); ++pixel) {
+    const auto kind = std::find(rising.begin(), rising.end(), plain[pixel]) - rising.begin();
+    const auto place = static_cast<std::size_t>(shape.order.at(static_cast<std::size_t>(kind)));
+    EXPECT_EQ(ordered[pixel], rising[place]) << pixel;
+  }
+}
+
+TEST(SpotOrder, AllStepsOfAPixelMoveTogether) {
+  SpotShape shape;
+  shape.order = {4, 3, 2, 1, 0};
+  const std::vector<std::int64_t> plain = spotShares(kFives, kFive, 3, 1.0, {});
+  std::vector<std::int64_t> ordered = spotShares(kFives, kFive, 3, 1.0, shape);
+  EXPECT_NE(ordered, plain);
+  for (std::size_t first = 0; first < ordered.size(); first += 3) {
+    EXPECT_LE(ordered[first], ordered[first + 1]);
+    EXPECT_LE(ordered[first + 1], ordered[first + 2]);
+  }
+  std::vector<std::int64_t> all = plain;
+  std::sort(all.begin(), all.end());
+  std::sort(ordered.begin(), ordered.end());
+  EXPECT_EQ(ordered, all);
+}
+
+TEST(SpotOrder, InItsOwnOrderNothingMoves) {
+  SpotShape shape;
+  shape.order = {0, 1, 2, 3, 4};
+  EXPECT_EQ(spotShares(kFives, kFive, 3, 0.5, shape), spotShares(kFives, kFive, 3, 0.5, {}));
+}
+
+TEST(SpotOrder, PixelsAlikeBySymmetryAreOneKind) {
+  // Cells of 4 x 4 pixels about their corners: 4 inner pixels, 8 edge ones, 4 outer ones.
+  EXPECT_EQ(pixelKinds(kSquares, {}), 3U);
+}
+
+TEST(SpotOrder, WhereEverySecondDotIsLargerTwoCellsHaveKinds) {
+  SpotShape paired;
+  paired.pairs = 0.2;
+  EXPECT_EQ(pixelKinds(kFives, paired), 10U);
 }
 
 }  // namespace

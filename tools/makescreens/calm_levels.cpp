@@ -12,17 +12,15 @@
 #include <numbers>
 #include <utility>
 
-#include "tools/eye/colour.h"
 #include "tools/eye/sight.h"
 
 namespace gdi::makescreens {
 namespace {
 
-constexpr double kInches = 12.0;            // from the eye to the paper
-constexpr double kShortestWave = 8.0;       // pixels: shorter ones are the cells themselves
-constexpr double kCoarseWeight = 3.25;      // 1 as pattern, 1.5^2 as coarse pattern
-constexpr double kToneWeight = 4.0;         // of a tone's distance from its target
-constexpr double kSlopeShare = 1.0 / 40.0;  // of the units, on both sides, that a slope is taken of
+constexpr double kInches = 12.0;        // from the eye to the paper
+constexpr double kShortestWave = 8.0;   // pixels: shorter ones are the cells themselves
+constexpr double kCoarseWeight = 3.25;  // 1 as pattern, 1.5^2 as coarse pattern
+constexpr double kToneWeight = 4.0;     // of a tone's distance from its target
 
 // A wave of the tile and how much of it the units so far make.
 struct Wave {
@@ -62,10 +60,6 @@ std::vector<Wave> longWaves(const Tile& tile) {
   return waves;
 }
 
-double printedLightness(double area, double solid) {
-  return eye::lightness(1.0 - std::min(area, 1.0) * (1.0 - solid));
-}
-
 }  // namespace
 
 std::vector<double> unevennessOf(const Tile& tile, std::span<const std::uint32_t> order) {
@@ -83,22 +77,13 @@ std::vector<double> unevennessOf(const Tile& tile, std::span<const std::uint32_t
   return result;
 }
 
-LevelUnits calmLevels(const PrintedCurve& curve, double gain, double solid,
-                      std::span<const double> unevenness) {
+LevelUnits calmLevels(const ToneErrors& errors, std::span<const double> unevenness) {
   constexpr double kNever = std::numeric_limits<double>::infinity();
-  const std::size_t units = curve.units();
-  std::vector<double> lightnesses;
+  const std::size_t units = errors.units();
   std::vector<double> costs;
+  costs.reserve(units + 1);
   for (std::size_t count = 0; count <= units; ++count) {
-    const auto here = static_cast<double>(count);
-    const double reach = std::max(1.0, static_cast<double>(units) * kSlopeShare);
-    const double from = std::max(0.0, here - reach);
-    const double to = std::min(static_cast<double>(units), here + reach);
-    // L* that one unit more makes.
-    const double slope =
-        (printedLightness(curve.areaAt(to), solid) - printedLightness(curve.areaAt(from), solid)) /
-        (to - from);
-    lightnesses.push_back(printedLightness(curve.areaAt(here), solid));
+    const double slope = errors.slopeAt(count);
     costs.push_back(slope * slope * unevenness[count]);
   }
 
@@ -111,15 +96,13 @@ LevelUnits calmLevels(const PrintedCurve& curve, double gain, double solid,
     std::vector<bool>& lesser = begins.at(static_cast<std::size_t>(level));
     lesser.assign(units + 1, false);
     std::vector<double> next(units + 1, kNever);
-    const double target = printedLightness(targetArea(level, gain), solid);
     std::size_t best = 0;
     for (std::size_t count = 1; count <= units; ++count) {
       if (sums[count - 1] < sums[best]) {
         best = count - 1;
         lesser[best] = true;
       }
-      const double distance = lightnesses[count] - target;
-      next[count] = sums[best] + kToneWeight * distance * distance + costs[count];
+      next[count] = sums[best] + kToneWeight * errors.at(level, count) + costs[count];
     }
     sums = std::move(next);
   }

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "tools/makescreens/tone.h"
+#include "tools/makescreens/tone_errors.h"
 #include "tools/printmodel/Tile.h"
 
 namespace gdi::makescreens {
@@ -21,11 +22,9 @@ using printmodel::Tile;
 std::vector<double> unevennessOf(const Tile& tile, std::span<const std::uint32_t> order);
 
 // Units per level: 0 for level 0, all for level 255, at least one more for each level. Of all such
-// rows the one with the least sum, over the levels, of 4 times the squared distance in L* from the
-// target and of the unevenness times the square of the L* that one unit makes there. `solid` is a
-// solid's reflectance.
+// rows the one with the least sum, over the levels, of 4 times the tone's error and of the
+// unevenness times the square of the L* that one unit makes there.
 // Requires: 255 units at least; an unevenness for each count of them.
-LevelUnits calmLevels(const PrintedCurve& curve, double gain, double solid,
-                      std::span<const double> unevenness);
+LevelUnits calmLevels(const ToneErrors& errors, std::span<const double> unevenness);
 
 }  // namespace gdi::makescreens

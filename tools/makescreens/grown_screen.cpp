@@ -3,7 +3,10 @@
 
 #include "tools/makescreens/grown_screen.h"
 
+#include <span>
+
 #include "tools/makescreens/calm_levels.h"
+#include "tools/makescreens/tone_errors.h"
 #include "tools/printmodel/PrintModel.h"
 
 namespace gdi::makescreens {
@@ -11,27 +14,37 @@ namespace {
 
 using printmodel::PrintModel;
 
-// One of the printers that a screen has to serve.
-struct Printer {
-  PrintModel model;
-  double weight;
-};
+// How the tile darkens in that printer as it takes one unit of `order` after the other.
+PrintedCurve curveOf(const PaperModel& printer, const Tile& tile, int steps,
+                     std::span<const std::uint32_t> order) {
+  const PrintModel model(printer, tile, steps);
+  std::vector<std::uint8_t> values(tile.size(), 0);
+  std::size_t grown = 0;
+  return {order.size(), [&](std::size_t units) {
+            for (; grown < units; ++grown) {
+              ++values[order[grown]];
+            }
+            return model.printedArea(values);
+          }};
+}
 
-std::vector<Printer> printersFor(const PaperModel& paper, const Variation& variation,
-                                 double gradualWeight, const printmodel::Tile& tile, int steps) {
-  std::vector<Printer> printers;
-  for (const int blurred : {-1, 0, 1}) {
+// In the class's own printer, a sharper, a blurred and a gradual one.
+std::vector<PrinterCurve> printerCurves(const PaperModel& paper, const Variation& variation,
+                                        double gradualWeight, const Tile& tile, int steps,
+                                        std::span<const std::uint32_t> order) {
+  std::vector<PrinterCurve> curves;
+  for (const int blurred : {0, -1, 1}) {
     PaperModel printer = paper;
     printer.spot += blurred * variation.spot;
     printer.threshold -= blurred * variation.threshold;
-    printers.push_back({PrintModel(printer, tile, steps), 1.0});
+    curves.push_back({curveOf(printer, tile, steps, order), 1.0});
   }
   if (variation.softness > 0.0) {
     PaperModel printer = paper;
     printer.softness = variation.softness;
-    printers.push_back({PrintModel(printer, tile, steps), gradualWeight});
+    curves.push_back({curveOf(printer, tile, steps, order), gradualWeight});
   }
-  return printers;
+  return curves;
 }
 
 }  // namespace
@@ -43,25 +56,10 @@ GrownScreen growScreen(const ScreenParameters& screen, int depth, const PaperCla
   result.order =
       growthOrder(screen.lattice, result.tile, steps, screen.softEdge, screen.growth, start);
 
-  const std::vector<Printer> printers =
-      printersFor(paper.model, variation, screen.gradualWeight, result.tile, steps);
-  std::vector<std::uint8_t> values(result.tile.size(), 0);
-  std::size_t grown = 0;
-  const auto printedArea = [&](std::size_t units) {
-    for (; grown < units; ++grown) {
-      ++values[result.order[grown]];
-    }
-    double sum = 0.0;
-    double weights = 0.0;
-    for (const Printer& printer : printers) {
-      sum += printer.weight * printer.model.printedArea(values);
-      weights += printer.weight;
-    }
-    return sum / weights;
-  };
-  const PrintedCurve curve(result.order.size(), printedArea);
-  result.levels =
-      calmLevels(curve, paper.gain, paper.model.solid, unevennessOf(result.tile, result.order));
+  const std::vector<PrinterCurve> printers =
+      printerCurves(paper.model, variation, screen.gradualWeight, result.tile, steps, result.order);
+  const ToneErrors errors(printers, paper.gain, paper.model.solid);
+  result.levels = calmLevels(errors, unevennessOf(result.tile, result.order));
   return result;
 }
 

@@ -19,6 +19,7 @@ namespace gdi::makescreens {
 namespace {
 
 constexpr int kLargestPeriod = 64;
+constexpr int kLastPlace = 9999;  // far more than cells have pixels
 
 using Fields = std::span<const std::string_view>;
 
@@ -32,7 +33,7 @@ class Reader {
       std::string_view fields;
       bool (Reader::*read)(Fields);
     };
-    static constexpr std::array<Form, 6> kForms{{
+    static constexpr std::array<Form, 7> kForms{{
         {"quality", "NAME DEPTH", &Reader::readQuality},
         {"start", "PLANE X Y", &Reader::readStart},
         {"variation", "SPOT THRESHOLD SOFTNESS", &Reader::readVariation},
@@ -42,13 +43,16 @@ class Reader {
          "CLASS QUALITY PLANE N A B C D U V CELLS SOFT-EDGE EVENNESS REACH DOT-ELLIPSE DOT-ROUND "
          "DOT-PAIRS HOLE-ELLIPSE HOLE-ROUND HOLE-PAIRS LEAST-DOT LEAST-HOLE GRADUAL",
          &Reader::readScreen},
+        {"order", "CLASS QUALITY PLANE dots|holes PLACE...", &Reader::readOrder},
     }};
     for (const Form& form : kForms) {
       if (fields.front() != form.keyword) {
         continue;
       }
       const auto blanks = std::count(form.fields.begin(), form.fields.end(), ' ');
-      if (fields.size() != static_cast<std::size_t>(blanks) + 2) {
+      const auto expected = static_cast<std::size_t>(blanks) + 2;
+      const bool mayGoOn = form.fields.ends_with("...");
+      if (fields.size() < expected || (fields.size() > expected && !mayGoOn)) {
         return fail("expected: " + std::string(form.keyword) + ' ' + std::string(form.fields));
       }
       return (this->*form.read)(fields.subspan(1));
@@ -211,6 +215,37 @@ class Reader {
     return checkTile(screen, parameters_.qualities[quality]) &&
            (screens_.try_emplace({paperClass, quality, plane}, screen).second ||
             fail("this class, quality and plane has a screen already"));
+  }
+
+  bool readOrder(Fields fields) {
+    std::size_t paperClass = 0;
+    std::size_t quality = 0;
+    std::size_t plane = 0;
+    if (!readReference("class", parameters_.classes, fields[0], paperClass) ||
+        !readReference("quality", parameters_.qualities, fields[1], quality) ||
+        !readPlane(fields[2], plane)) {
+      return false;
+    }
+    const auto found = screens_.find({paperClass, quality, plane});
+    if (found == screens_.end()) {
+      return fail("this class, quality and plane has no screen yet");
+    }
+    if (fields[3] != "dots" && fields[3] != "holes") {
+      return fail(quoted(fields[3]) + " is neither dots nor holes");
+    }
+    ScreenParameters& screen = found->second;
+    SpotShape& shape = fields[3] == "dots" ? screen.growth.dots : screen.growth.holes;
+    if (!shape.order.empty()) {
+      return fail("these " + std::string(fields[3]) + " have an order already");
+    }
+    for (const std::string_view field : fields.subspan(4)) {
+      int place = 0;
+      if (!readNumber("place", field, 0, kLastPlace, place)) {
+        return false;
+      }
+      shape.order.push_back(place);
+    }
+    return checkTile(screen, parameters_.qualities[quality]);
   }
 
   bool readLattice(Fields fields, Lattice& lattice) {

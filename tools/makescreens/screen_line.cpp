@@ -40,6 +40,13 @@ class Line {
     number(shape.pairs, 6);
   }
 
+  void place(const Parameters& parameters, std::size_t paperClass, std::size_t quality,
+             std::size_t plane) {
+    word(parameters.classes[paperClass].name, 6);
+    word(parameters.qualities[quality].name, 8);
+    word(kPlanes.at(plane), 7);
+  }
+
   [[nodiscard]] const std::string& text() const { return text_; }
 
  private:
@@ -52,9 +59,7 @@ std::string screenLine(const Parameters& parameters, std::size_t paperClass, std
                        std::size_t plane, const ScreenParameters& screen) {
   const Lattice& lattice = screen.lattice;
   Line line("screen");
-  line.word(parameters.classes[paperClass].name, 6);
-  line.word(parameters.qualities[quality].name, 8);
-  line.word(kPlanes.at(plane), 7);
+  line.place(parameters, paperClass, quality, plane);
   line.number(lattice.n, 3);
   for (const int coefficient : {lattice.a, lattice.b, lattice.c, lattice.d}) {
     line.number(coefficient, 3);
@@ -71,6 +76,26 @@ std::string screenLine(const Parameters& parameters, std::size_t paperClass, std
   line.number(screen.growth.leastHole, 2);
   line.number(screen.gradualWeight, 5);
   return line.text();
+}
+
+std::vector<std::string> orderLines(const Parameters& parameters, std::size_t paperClass,
+                                    std::size_t quality, std::size_t plane,
+                                    const ScreenParameters& screen) {
+  std::vector<std::string> lines;
+  for (const bool dots : {true, false}) {
+    const SpotShape& shape = dots ? screen.growth.dots : screen.growth.holes;
+    if (shape.order.empty()) {
+      continue;
+    }
+    Line line("order ");
+    line.place(parameters, paperClass, quality, plane);
+    line.word(dots ? "dots" : "holes", 5);
+    for (const int place : shape.order) {
+      line.number(place, 2);
+    }
+    lines.push_back(line.text());
+  }
+  return lines;
 }
 
 }  // namespace gdi::makescreens

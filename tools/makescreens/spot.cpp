@@ -61,10 +61,14 @@ std::vector<std::int64_t> spotValues(const Lattice& lattice, const Tile& tile,
   return values;
 }
 
-}  // namespace
+// One mean share for each pixel, and `steps` shares.
+struct PixelShares {
+  std::vector<std::int64_t> means;
+  std::vector<std::int64_t> steps;
+};
 
-std::vector<std::int64_t> spotShares(const Lattice& lattice, const Tile& tile, int steps,
-                                     double softEdge, const SpotShape& shape) {
+PixelShares sharesOf(const Lattice& lattice, const Tile& tile, int steps, double softEdge,
+                     const SpotShape& shape) {
   const std::vector<std::int64_t> values = spotValues(lattice, tile, shape);
   std::vector<std::int64_t> sorted = values;
   std::sort(sorted.begin(), sorted.end());
@@ -76,7 +80,7 @@ std::vector<std::int64_t> spotShares(const Lattice& lattice, const Tile& tile, i
   };
 
   const auto soft = static_cast<std::int64_t>(std::lround(softEdge * 1000.0));
-  std::vector<std::int64_t> shares;
+  PixelShares shares;
   std::array<std::int64_t, kPoints> points{};
   for (std::size_t first = 0; first < values.size(); first += kPoints) {
     for (std::size_t i = 0; i < kPoints; ++i) {
@@ -85,13 +89,56 @@ std::vector<std::int64_t> spotShares(const Lattice& lattice, const Tile& tile, i
     std::sort(points.begin(), points.end());
     const std::int64_t mean = std::accumulate(points.begin(), points.end(), std::int64_t{0}) /
                               static_cast<std::int64_t>(kPoints);
+    shares.means.push_back(mean);
     for (int step = 0; step < steps; ++step) {
       const std::size_t middle =
           static_cast<std::size_t>(2 * step + 1) * kPoints / (2 * static_cast<std::size_t>(steps));
-      shares.push_back(mean + (points.at(middle) - mean) * soft / 1000);
+      shares.steps.push_back(mean + (points.at(middle) - mean) * soft / 1000);
     }
   }
   return shares;
+}
+
+// The different means, rising.
+std::vector<std::int64_t> kindsOf(std::vector<std::int64_t> means) {
+  std::sort(means.begin(), means.end());
+  means.erase(std::unique(means.begin(), means.end()), means.end());
+  return means;
+}
+
+}  // namespace
+
+std::size_t pixelKinds(const Lattice& lattice, const SpotShape& shape) {
+  Tile tile = smallestTile(lattice);
+  if (shape.pairs != 0.0 && !holdsPairs(lattice, tile)) {
+    tile = {2 * tile.width, 2 * tile.height};
+  }
+  return kindsOf(sharesOf(lattice, tile, 1, 0.0, shape).means).size();
+}
+
+std::vector<std::int64_t> spotShares(const Lattice& lattice, const Tile& tile, int steps,
+                                     double softEdge, const SpotShape& shape) {
+  const PixelShares shares = sharesOf(lattice, tile, steps, softEdge, shape);
+  if (shape.order.empty()) {
+    return shares.steps;
+  }
+  const std::vector<std::int64_t> kinds = kindsOf(shares.means);
+  const auto kindOf = [&kinds](std::int64_t mean) {
+    return static_cast<std::size_t>(std::lower_bound(kinds.begin(), kinds.end(), mean) -
+                                    kinds.begin());
+  };
+  std::vector<std::size_t> oneOfKind(kinds.size());
+  for (std::size_t pixel = 0; pixel < shares.means.size(); ++pixel) {
+    oneOfKind[kindOf(shares.means[pixel])] = pixel;
+  }
+  std::vector<std::int64_t> ordered;
+  ordered.reserve(shares.steps.size());
+  for (const std::int64_t mean : shares.means) {
+    const auto place = static_cast<std::size_t>(shape.order[kindOf(mean)]);
+    const auto from = shares.steps.begin() + static_cast<std::ptrdiff_t>(oneOfKind[place]) * steps;
+    ordered.insert(ordered.end(), from, from + steps);
+  }
+  return ordered;
 }
 
 }  // namespace gdi::makescreens

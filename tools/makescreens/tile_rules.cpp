@@ -3,6 +3,12 @@
 
 #include "tools/makescreens/tile_rules.h"
 
+#include <algorithm>
+#include <cstddef>
+#include <string_view>
+#include <vector>
+
+#include "tools/makescreens/spot.h"
 #include "tools/makescreens/tone.h"
 
 namespace gdi::makescreens {
@@ -10,6 +16,28 @@ namespace {
 
 constexpr int kMostPixels = 4096;
 constexpr double kSmallestCell = 4.0;  // pixels
+
+bool isOrder(std::vector<int> order) {
+  std::sort(order.begin(), order.end());
+  for (std::size_t place = 0; place < order.size(); ++place) {
+    if (order[place] != static_cast<int>(place)) {
+      return false;
+    }
+  }
+  return true;
+}
+
+std::string orderProblem(std::string_view what, const Lattice& lattice, const SpotShape& shape) {
+  if (shape.order.empty()) {
+    return "";
+  }
+  const std::size_t kinds = pixelKinds(lattice, shape);
+  if (shape.order.size() == kinds && isOrder(shape.order)) {
+    return "";
+  }
+  return std::string("the order of ").append(what).append(" has to name each of 0 to ") +
+         std::to_string(kinds - 1) + " once";
+}
 
 }  // namespace
 
@@ -41,7 +69,8 @@ std::string tileProblem(const ScreenParameters& screen, int depth) {
   if (paired && !holdsPairs(lattice, tile)) {
     return "the tile holds no whole pairs of cells: PAIRS has to be 0";
   }
-  return "";
+  const std::string problem = orderProblem("dots", lattice, screen.growth.dots);
+  return problem.empty() ? orderProblem("holes", lattice, screen.growth.holes) : problem;
 }
 
 }  // namespace gdi::makescreens

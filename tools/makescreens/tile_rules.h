@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The rasterToGDI authors
 // SPDX-License-Identifier: Apache-2.0
 
-// What a screen's tile has to hold, beyond each of its numbers being in range.
+// What a screen's tile has to hold, beyond each of its numbers being in range, and what its orders
+// of pixels have to name.
 #pragma once
 
 #include <string>

@@ -18,13 +18,13 @@ struct Goal {
 };
 
 constexpr std::array<Goal, 9> kGoals{{
-    {"plain", "Fast", 1.08, 1.18},
+    {"plain", "Fast", 1.08, 1.14},
     {"plain", "Standard", 0.90, 1.06},
     {"plain", "Fine", 0.87, 1.05},
-    {"rough", "Fast", 1.16, 1.45},
+    {"rough", "Fast", 1.16, 1.44},
     {"rough", "Standard", 1.02, 1.42},
     {"rough", "Fine", 0.99, 1.41},
-    {"smooth", "Fast", 1.07, 1.08},
+    {"smooth", "Fast", 1.07, 1.06},
     {"smooth", "Standard", 0.87, 0.96},
     {"smooth", "Fine", 0.83, 0.95},
 }};

@@ -25,9 +25,9 @@ double Score::of(const Page& page, double j, double most) {
 
 double raisedBy(double share) {
   constexpr double kAhead = 0.99;
-  constexpr double kLost = 1.02;
-  constexpr double kSlope = 10.0;
-  return kSlope * (std::clamp(share, kAhead, kLost) - kAhead);
+  constexpr double kLost = 1.06;
+  const double counted = std::min(share, kLost);
+  return 10.0 * std::max(0.0, counted - kAhead) + 20.0 * std::max(0.0, counted - 1.0);
 }
 
 }  // namespace gdi::searchscreens

@@ -29,9 +29,9 @@ class Score {
   std::vector<Rival> rivals_;  // the one that last ended a look first
 };
 
-// What a page's J is raised by when it is `share` of its rival's: 0 up to 99 %, from there 10 times
-// the excess, up to that of 102 %. A condition that is lost by more is given up rather than paid
-// for under all the others.
+// What a page's J is raised by when it is `share` of its rival's: 10 times what is above 99 %, and
+// 20 times what is above 100 %, both up to 106 %. A condition that is lost by more is given up
+// rather than paid for under all the others.
 double raisedBy(double share);
 
 }  // namespace gdi::searchscreens

@@ -7,7 +7,12 @@
 #include <array>
 #include <cmath>
 #include <cstddef>
+#include <numeric>
 #include <span>
+
+#include "tools/makescreens/lattice.h"
+#include "tools/makescreens/spot.h"
+#include "tools/makescreens/tile_rules.h"
 
 namespace gdi::searchscreens {
 namespace {
@@ -17,11 +22,19 @@ using makescreens::SpotShape;
 
 constexpr int kLargestPeriod = 64;
 constexpr int kMostCells = 200;
+constexpr int kDeepest = 8;        // bits a pixel
+constexpr int kMostOrdered = 400;  // pixels of a tile: more kinds take too long to tell apart
 
 // In range, with that many steps to 1.
 double inRange(double value, double least, double most, double steps = 100.0) {
   // 0 is added so that no -0 is left.
   return std::clamp(std::round(value * steps) / steps, least, most) + 0.0;
+}
+
+// Another lattice has other pixels.
+void forgetOrders(ScreenParameters& screen) {
+  screen.growth.dots.order.clear();
+  screen.growth.holes.order.clear();
 }
 
 void stepCoefficient(ScreenParameters& screen, Random& random) {
@@ -30,10 +43,12 @@ void stepCoefficient(ScreenParameters& screen, Random& random) {
   int& coefficient = *coefficients.at(static_cast<std::size_t>(random.whole(0, 3)));
   coefficient += random.whole(0, 1) == 0 ? -1 : 1;
   coefficient = std::clamp(coefficient, -kLargestPeriod, kLargestPeriod);
+  forgetOrders(screen);
 }
 
 void stepPeriod(ScreenParameters& screen, Random& random) {
   screen.lattice.n = std::clamp(screen.lattice.n + random.whole(-2, 2), 1, kLargestPeriod);
+  forgetOrders(screen);
 }
 
 // One of the usual sizes.
@@ -43,6 +58,7 @@ void newLattice(ScreenParameters& screen, Random& random) {
   for (int* coefficient : {&lattice.a, &lattice.b, &lattice.c, &lattice.d}) {
     *coefficient = random.whole(-6, 6);
   }
+  forgetOrders(screen);
 }
 
 void newPhaseU(ScreenParameters& screen, Random& random) {
@@ -88,8 +104,37 @@ void moveRoundness(ScreenParameters& screen, Random& random) {
 }
 
 void movePairs(ScreenParameters& screen, Random& random) {
-  double& pairs = someShape(screen, random).pairs;
+  SpotShape& shape = someShape(screen, random);
+  const bool paired = shape.pairs != 0.0;
+  double& pairs = shape.pairs;
   pairs = random.whole(0, 2) == 0 ? 0.0 : inRange(pairs + 0.15 * random.normal(), -1.0, 1.0);
+  // Two cells have other pixels than one.
+  if (paired != (pairs != 0.0)) {
+    shape.order.clear();
+  }
+}
+
+// Two kinds of pixels that come soon after each other, among those that dots (or holes) take while
+// they grow to half the area and a little more.
+void swapPixels(ScreenParameters& screen, Random& random) {
+  if (!makescreens::tileProblem(screen, kDeepest).empty() ||
+      makescreens::smallestTile(screen.lattice).pixels() > kMostOrdered) {
+    return;
+  }
+  const bool dots = random.whole(0, 1) == 0;
+  SpotShape& shape = dots ? screen.growth.dots : screen.growth.holes;
+  if (shape.order.empty()) {
+    shape.order.resize(makescreens::pixelKinds(screen.lattice, shape));
+    std::iota(shape.order.begin(), shape.order.end(), 0);
+  }
+  const int last = static_cast<int>(shape.order.size()) - 1;
+  const int first = random.whole(0, last * 3 / 5);
+  const int second = std::min(first + random.whole(1, 3), last);
+  const auto at = [&](int place) { return shape.order.begin() + (dots ? place : last - place); };
+  std::iter_swap(at(first), at(second));
+  if (std::ranges::is_sorted(shape.order)) {
+    shape.order.clear();
+  }
 }
 
 void likenHoles(ScreenParameters& screen, Random& /*random*/) {
@@ -113,11 +158,11 @@ using Move = void (*)(ScreenParameters&, Random&);
 
 // Those of the lattice first, that of the soft edge last. Some stand twice, to come more often.
 constexpr std::size_t kLatticeMoves = 3;
-constexpr std::array<Move, 20> kMoves{
-    stepCoefficient, stepPeriod,    newLattice,    newPhaseU,          newPhaseV,
-    scaleCells,      scaleEvenness, scaleReach,    moveEllipse,        moveEllipse,
-    moveRoundness,   moveRoundness, movePairs,     movePairs,          likenHoles,
-    newLeastDot,     newLeastHole,  scaleEvenness, scaleGradualWeight, moveSoftEdge};
+constexpr std::array<Move, 24> kMoves{
+    stepCoefficient,    stepPeriod, newLattice,  newPhaseU,   newPhaseV,     scaleCells,
+    scaleEvenness,      scaleReach, moveEllipse, moveEllipse, moveRoundness, moveRoundness,
+    movePairs,          movePairs,  likenHoles,  newLeastDot, newLeastHole,  scaleEvenness,
+    scaleGradualWeight, swapPixels, swapPixels,  swapPixels,  swapPixels,    moveSoftEdge};
 
 }  // namespace
 

@@ -36,9 +36,14 @@ void writeFound(std::ostream& out, const CommandLine& line, const Task& task, co
   }
   out << '\n';
   for (std::size_t place = 0; place < task.planes.size(); ++place) {
-    out << makescreens::screenLine(*task.parameters, task.paperClass, task.quality,
-                                   task.planes[place], found.screens[place])
+    const std::size_t plane = task.planes[place];
+    const ScreenParameters& screen = found.screens[place];
+    out << makescreens::screenLine(*task.parameters, task.paperClass, task.quality, plane, screen)
         << '\n';
+    for (const std::string& order :
+         makescreens::orderLines(*task.parameters, task.paperClass, task.quality, plane, screen)) {
+      out << order << '\n';
+    }
   }
 }
 
