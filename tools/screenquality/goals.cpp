@@ -22,7 +22,7 @@ constexpr std::array<Goal, 9> kGoals{{
     {"plain", "Standard", 0.90, 1.06},
     {"plain", "Fine", 0.87, 1.05},
     {"rough", "Fast", 1.16, 1.44},
-    {"rough", "Standard", 1.02, 1.42},
+    {"rough", "Standard", 1.02, 1.41},
     {"rough", "Fine", 0.99, 1.41},
     {"smooth", "Fast", 1.07, 1.06},
     {"smooth", "Standard", 0.87, 0.96},
