@@ -111,9 +111,7 @@ TEST(GraphicsPage, HasPaperAndFullBlack) {
 TEST(Photograph, HasAtLeast200LevelsInBlackOnly) {
   EXPECT_GE(contentOf(Subject::kPhotograph, 1).distinctLevels(0), 200U);
 }
-#endif
 
-#ifndef GDI_SLOW_BUILD
 TEST(Photograph, HasThousandsOfInksAndHardlyAnyPaper) {
   const Content content = contentOf(Subject::kPhotograph, 4);
   EXPECT_GT(content.inks.size(), 10000U);

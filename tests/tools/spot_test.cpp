@@ -7,6 +7,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <numeric>
+#include <set>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -226,6 +227,30 @@ TEST(SpotOrder, WhereEverySecondDotIsLargerTwoCellsHaveKinds) {
   SpotShape paired;
   paired.pairs = 0.2;
   EXPECT_EQ(pixelKinds(kFives, paired), 10U);
+}
+
+TEST(SpotOrder, IsTheSameInEveryRepeatOfALargerTile) {
+  SpotShape shape;
+  shape.order = {0, 3, 1, 2, 4};
+  const std::vector<std::int64_t> once = spotShares(kFives, kFive, 1, 0.0, shape);
+  const std::vector<std::int64_t> repeated = spotShares(kFives, {10, 5}, 1, 0.0, shape);
+  for (std::size_t y = 0; y < 5; ++y) {
+    for (std::size_t x = 0; x < 10; ++x) {
+      EXPECT_EQ(repeated[10 * y + x], once[5 * y + x % 5]) << x << ' ' << y;
+    }
+  }
+}
+
+TEST(SpotOrder, ATileThatHoldsPairsBeingTwiceAsHighHasTheKindsOfTwoCells) {
+  constexpr Lattice kSlanted{4, 1, 1, -1, 0, 130, 290};
+  constexpr Tile kHigh{4, 8};
+  ASSERT_TRUE(holdsPairs(kSlanted, kHigh));
+  ASSERT_FALSE(holdsPairs(kSlanted, smallestTile(kSlanted)));
+  SpotShape paired;
+  paired.pairs = 0.2;
+  const std::vector<std::int64_t> shares = spotShares(kSlanted, kHigh, 1, 0.0, paired);
+  EXPECT_EQ(std::set<std::int64_t>(shares.begin(), shares.end()).size(),
+            pixelKinds(kSlanted, paired));
 }
 
 }  // namespace

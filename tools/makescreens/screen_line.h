@@ -14,8 +14,8 @@ namespace gdi::makescreens {
 
 // The `screen` statement of that class, quality and plane, without a line feed, in the columns of
 // resources/screens.conf. The numbers are those of `screen`, which need not be the one that
-// `parameters` holds there; reading the line gives exactly the same ones, but
-// for the orders of pixels.
+// `parameters` holds there; reading the line gives exactly the same ones,
+// but no orders of pixels.
 std::string screenLine(const Parameters& parameters, std::size_t paperClass, std::size_t quality,
                        std::size_t plane, const ScreenParameters& screen);
 
