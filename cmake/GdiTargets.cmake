@@ -7,6 +7,7 @@ find_package(PkgConfig REQUIRED)
 find_library(CUPS_LIBRARY cups REQUIRED)
 find_library(CUPSIMAGE_LIBRARY cupsimage REQUIRED)
 pkg_check_modules(PLIST REQUIRED IMPORTED_TARGET libplist-2.0)
+pkg_check_modules(LCMS2 REQUIRED IMPORTED_TARGET lcms2)
 
 add_library(gdi_flags INTERFACE)
 target_include_directories(gdi_flags INTERFACE ${PROJECT_SOURCE_DIR})

@@ -20,7 +20,6 @@ namespace gdi {
 namespace {
 
 constexpr std::size_t kPathBytes = 1024;
-constexpr std::int32_t kLastVersionWithoutUpstreamMatching = 0x102F;  // up to 10.2.x
 
 const char* colorModeWord(std::uint32_t channels) {
   if (channels == 1) {
@@ -37,6 +36,7 @@ bool exitStartPage(bool result) {
 }  // namespace
 
 PlanarFilter::~PlanarFilter() {
+  endColorSync();
   deletePlanes();
 }
 
@@ -132,18 +132,6 @@ bool PlanarFilter::loadScreenSet() {
   return true;
 }
 
-// Always true: colour matching is an improvement, never a condition. From 10.3 on the print system
-// matches upstream; before it, a platform without a colour engine has no colour world to set up.
-bool PlanarFilter::startColorSync() {
-  const std::int32_t version = systemVersion();
-  if (version > kLastVersionWithoutUpstreamMatching) {
-    CPSDebugLog("startColorSync skipping OS version 0x%x", static_cast<unsigned>(version));
-  } else {
-    CPSDebugLog("startColorSync: no colour engine, lines pass unmatched");
-  }
-  return true;
-}
-
 std::int32_t PlanarFilter::systemVersion() {
   std::int32_t version = 0;
   if (const std::int32_t error = Gestalt(gestaltSystemVersion, &version); error != 0) {
@@ -170,6 +158,7 @@ bool PlanarFilter::sendRaster() {
       rowsFound = false;
     }
   }
+  matchLine();
   if (!rowsFound || !halftoner->halftoneChunkyScanlineToPlanar(
                         rasterBuffer.data(), static_cast<int>(rasterPixelCount),
                         static_cast<int>(rasterLineNumber), std::span(rows).first(channelCount),
@@ -189,6 +178,7 @@ bool PlanarFilter::endPage(std::uint32_t page) {
   channelCount = 0;
   halftoner.reset();
   halftoneKey.clear();
+  endColorSync();
   return result;
 }
 

@@ -1,8 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The rasterToGDI authors
 // SPDX-License-Identifier: Apache-2.0
 
-// The planar stage: screens each chunky line into one row of every plane, straight into the
-// mapped scratch files from which the printer's stage collects finished bands.
+// The planar stage: matches the colours of each chunky line where that is asked for, and screens it
+// into one row of every plane, straight into the mapped scratch files from which the printer's
+// stage collects finished bands.
 //
 // Everything of a page is made in startPage and undone in endPage; nothing survives between pages.
 #pragma once
@@ -14,13 +15,15 @@
 
 #include "bands/RasterBandBuffer.h"
 #include "halftone/screens/Halftoner.h"
+#include "platform/ColorSync/CMProfileLocation.h"
+#include "platform/ColorSync/CMWorld.h"
 #include "raster/RasterFilter.h"
 
 namespace gdi {
 
 class PlanarFilter : public RasterFilter {
  public:
-  // Deletes the plane files of a page that was never ended.
+  // Deletes the plane files of a page that was never ended, and its colour world.
   ~PlanarFilter() override;
 
   bool init() override;
@@ -48,13 +51,27 @@ class PlanarFilter : public RasterFilter {
   std::unique_ptr<Halftoner> halftoner;
   std::string halftoneKey;
 
+  // The page's colour matching, from startPage to endPage; null: lines pass unmatched.
+  CMWorldRef colorWorld = nullptr;
+  CMBitmap sourceBitmap;  // the line buffer; described with every colour world
+
  private:
   bool makePlanes();
   bool makePlane(std::size_t channel);
   bool chooseScreenSet();
   bool loadScreenSet();
-  static bool startColorSync();
+  bool startColorSync();
+  CMError makeColorWorld();
+  CMError findSourceProfile(CMProfileLocation& location);
+  CMError findDestinationProfile(CMProfileLocation& location);
+  void matchLine();
+  void endColorSync();
+  // Tells the user, once a job, that colours asked to be matched are not. `why` is what the error
+  // means when its own words do not say it.
+  void warnUnmatched(const std::string& what, CMError error, const char* why = nullptr);
   void deletePlanes();
+
+  bool unmatchedTold_ = false;
 };
 
 // The name of a page's screen set: quality, paper and colour mode in one word.

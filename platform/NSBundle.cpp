@@ -72,9 +72,13 @@ NSBundle::NSBundle(fs::path resourcePath) : resourcePath_(std::move(resourcePath
 }
 
 std::optional<std::string> NSBundle::objectForInfoDictionaryKey(std::string_view key) {
-  const PropertyListValue* information = propertyListOfResource("Info", "plist", "");
+  const PropertyListValue* information = infoDictionary();
   const PropertyListValue* entry = information == nullptr ? nullptr : information->find(key);
   return entry == nullptr ? std::nullopt : entry->text();
+}
+
+const PropertyListValue* NSBundle::infoDictionary() {
+  return propertyListOfResource("Info", "plist", "");
 }
 
 std::optional<fs::path> NSBundle::pathForResource(std::string_view name, std::string_view type,

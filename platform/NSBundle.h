@@ -33,6 +33,10 @@ class NSBundle {
   // or a text for it is missing.
   std::optional<std::string> objectForInfoDictionaryKey(std::string_view key);
 
+  // The whole information dictionary, for its tables; null when there is none. Valid as long as the
+  // bundle.
+  const PropertyListValue* infoDictionary();
+
   // The file NAME.TYPE (NAME alone when the type is empty) in the bundle or in its subfolder
   // `directory`; nothing when there is no such regular file or a name would leave the bundle.
   [[nodiscard]] std::optional<std::filesystem::path> pathForResource(

@@ -4,13 +4,12 @@
 #include "halftone/PlanarFilter.h"
 
 #include <array>
-#include <cstring>
 #include <optional>
 
 #include <gtest/gtest.h>
 
-#include "halftone/plane_geometry.h"
 #include "tests/halftone/FakeRasterStream.h"
+#include "tests/halftone/Planar.h"
 #include "tests/halftone/ScreenBundle.h"
 #include "tests/support/DebugLogCapture.h"
 #include "tests/support/EnvironmentVariable.h"
@@ -19,40 +18,7 @@ namespace gdi {
 namespace {
 
 using Bytes = std::vector<std::uint8_t>;
-
-// The stage on its own, with the part of the printer's stage that it relies on.
-class Planar : public PlanarFilter {
- public:
-  void setPage(const cups_page_header_t& header, const OptionsDict& options = {}) {
-    cupsPageHeader = header;
-    optionsDict = options;
-    ditherBPP = ditherBPPForQuality(optionValueOr(options, "Gradiation", "Fast"));
-    ditherBitWidth = ditherBitWidthFor(ditherBPP, header.cupsWidth);
-    ditherRowBytes = ditherBitWidth / 8;
-  }
-  bool begin(const cups_page_header_t& header, const OptionsDict& options = {}) {
-    setPage(header, options);
-    return allocRasterBuffer() && startPage(0);
-  }
-  bool sendLine(std::uint32_t line, const Bytes& bytes) {
-    std::memcpy(rasterBuffer.data(), bytes.data(), bytes.size());
-    rasterLineNumber = line;
-    return sendRaster();
-  }
-  // Row `row` of the plane in memory.
-  [[nodiscard]] Bytes planeRow(std::size_t plane, int row) const {
-    const std::uint8_t* bytes = rasterBand.at(plane)->rasterLine(row);
-    return {bytes, bytes + ditherRowBytes};
-  }
-
-  using PlanarFilter::channelCount;
-  using PlanarFilter::ditherBandHeight;
-  using PlanarFilter::ditherRowBytes;
-  using PlanarFilter::flip;
-  using PlanarFilter::halftoneKey;
-  using PlanarFilter::halftoner;
-  using PlanarFilter::rasterBand;
-};
+using test::Planar;
 
 class PlanarFilterTest : public testing::Test {
  protected:
@@ -272,45 +238,6 @@ TEST_F(PlanarFilterTest, EveryPageLoadsItsScreenSetAnew) {
   ASSERT_TRUE(filter_->begin(test::pageHeader(16, 8, 1)));
   EXPECT_EQ(log_.count("PlanarFilter loading screen set: FastPlainColor"), 1U);
   EXPECT_EQ(log_.count("PlanarFilter loading screen set: FastPlainMono"), 1U);
-}
-
-// What startPage does about colour matching on a system of that version; none: it is unknown.
-class ColorMatching : public testing::Test {
- protected:
-  std::vector<std::string> startPageOn(const std::optional<std::string>& version) {
-    test::TestBundle::Texts information;
-    if (version) {
-      information["SystemVersion"] = *version;
-    }
-    const test::ScreenBundle bundle(information);
-    Planar filter;
-    EXPECT_TRUE(filter.init());
-    EXPECT_TRUE(filter.begin(test::pageHeader(16, 8, 1)));
-    return log_.lines();
-  }
-  [[nodiscard]] bool skipped() const {
-    return log_.text().find("startColorSync skipping") != std::string::npos;
-  }
-
-  test::DebugLogCapture log_;
-};
-
-TEST_F(ColorMatching, IsSkippedFromTenThreeOn) {
-  (void)startPageOn("10.3.0");
-  EXPECT_EQ(log_.count("startColorSync skipping OS version 0x1030"), 1U);
-}
-
-TEST_F(ColorMatching, IsNotSkippedBeforeTenThreeAndThePageGoesOn) {
-  (void)startPageOn("10.2.9");
-  EXPECT_FALSE(skipped());
-  EXPECT_EQ(log_.lines().back(), "PlanarFilter startPage: exiting - result: 1");
-}
-
-TEST_F(ColorMatching, OnAnUnknownSystemTakesTheVersionForZeroAndThePageGoesOn) {
-  (void)startPageOn(std::nullopt);
-  EXPECT_EQ(log_.count("ASSERT: Gestalt(gestaltSystemVersion) failed -5550"), 1U);
-  EXPECT_FALSE(skipped());
-  EXPECT_EQ(log_.lines().back(), "PlanarFilter startPage: exiting - result: 1");
 }
 
 }  // namespace

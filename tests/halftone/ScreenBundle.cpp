@@ -30,13 +30,13 @@ std::string screenSets() {
 
 }  // namespace
 
-ScreenBundle::ScreenBundle(const TestBundle::Texts& information) {
-  TemporaryFolder& folder = bundle_.folder();
+ScreenBundle::ScreenBundle(const TestBundle::Texts& information, const std::string& tables) {
+  TemporaryFolder& folder = this->folder();
   std::string dictionary;
   for (const auto& [key, value] : information) {
     dictionary += "\"" + key + "\" = \"" + value + "\";\n";
   }
-  folder.write("Info.plist", "{\n" + dictionary + "}\n");
+  folder.write("Info.plist", "{\n" + dictionary + tables + "}\n");
   folder.write("ScreenSets.plist", "{ ScreenSets = {\n" + screenSets() + "}; }\n");
   // Version, width, height, input depth, output depth; the table's entries from the high bits on.
   folder.write("Screens/one", "1 1 1 1 1\0\x40"sv);

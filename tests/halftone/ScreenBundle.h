@@ -19,8 +19,13 @@ namespace gdi::test {
 class ScreenBundle {
  public:
   // Makes the bundle and has the process use it. Sets: {Fast 1, Standard 2, Fine 4} x {Plain, Thin}
-  // x {Color, Mono}; FastLabelsMono, whose depth is 2 and thus wrong.
-  explicit ScreenBundle(const TestBundle::Texts& information = {{"SystemVersion", "10.4.0"}});
+  // x {Color, Mono}; FastLabelsMono, whose depth is 2 and thus wrong. `tables` are further entries
+  // of the information dictionary, in its older text form.
+  explicit ScreenBundle(const TestBundle::Texts& information = {{"SystemVersion", "10.4.0"}},
+                        const std::string& tables = "");
+
+  // The folder, for further resources.
+  [[nodiscard]] TemporaryFolder& folder() { return bundle_.folder(); }
 
   // As that of TestBundle.
   void setStrings(const std::string& language, const TestBundle::Texts& strings);

@@ -17,8 +17,8 @@ class ProgramInFolder {
 
   // The exit status; -1 when the program could not be run or was killed. `arguments` are words for
   // the shell; `input` and `output` are files, seen from the folder.
-  int run(const std::string& arguments, const std::string& input = "/dev/null",
-          const std::string& output = "out") const;
+  [[nodiscard]] int run(const std::string& arguments, const std::string& input = "/dev/null",
+                        const std::string& output = "out") const;
 
   // What the last run wrote to the file "out", and to standard error.
   [[nodiscard]] std::string out() const { return contentsOf(folder_.path() / "out"); }

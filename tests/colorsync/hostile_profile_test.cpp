@@ -1,0 +1,81 @@
+// SPDX-FileCopyrightText: 2026 The rasterToGDI authors
+// SPDX-License-Identifier: Apache-2.0
+
+// Profiles that were cut or changed: each is refused or matches, and nothing else happens.
+
+#include <array>
+#include <random>
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include "tests/colorsync/real_profiles.h"
+#include "tests/support/TestBundle.h"
+
+namespace gdi {
+namespace {
+
+#ifdef GDI_SLOW_BUILD
+constexpr int kChanges = 8;
+#else
+constexpr int kChanges = 40;
+#endif
+
+// Uses the profile at both ends, on a few pixels; true when a colour world was made of it.
+bool usable(const std::string& name) {
+  bool made = false;
+  for (const bool asSource : {true, false}) {
+    const test::ColorWorld color(asSource ? name : test::kMeasuredCMYK,
+                                 asSource ? test::kMeasuredCMYK : name);
+    std::array<std::uint8_t, 12> pixels{0, 0, 0, 0, 255, 255, 255, 255, 3, 77, 150, 201};
+    CMBitmap line;
+    line.image = pixels.data();
+    line.width = 3;
+    line.height = 1;
+    line.rowBytes = 12;
+    line.pixelSize = 32;
+    line.space = cmCMYK32Space;
+    EXPECT_EQ(CWMatchBitmap(color.world, line), color.error == noErr ? noErr : paramErr);
+    made = made || color.world != nullptr;
+  }
+  return made;
+}
+
+class HostileProfile : public testing::TestWithParam<std::string> {
+ protected:
+  test::TestBundle bundle_;
+  std::string sound_ = test::contentsOf(GetParam());
+};
+
+TEST_P(HostileProfile, ThatIsWholeIsUsable) {
+  EXPECT_TRUE(usable(GetParam()));
+}
+
+TEST_P(HostileProfile, CutAnywhereIsRefusedOrUsed) {
+  for (std::size_t size = 0; size < sound_.size(); size += 1 + sound_.size() / 17) {
+    bundle_.folder().write("cut.icc", sound_.substr(0, size));
+    const bool used = usable("cut.icc");
+    EXPECT_FALSE(used && size < 128) << "not even a header, of " << size << " bytes";
+  }
+}
+
+TEST_P(HostileProfile, ChangedAnywhereIsRefusedOrUsed) {
+  std::mt19937 random(4711);  // NOLINT(cert-msc*): the same changes every time
+  const auto below = [&](std::size_t limit) { return random() % limit; };
+  // Header, list of tags, and the first bytes of the tags are where lengths and kinds stand.
+  const std::size_t front = std::min<std::size_t>(sound_.size(), 600);
+  for (int i = 0; i < kChanges; ++i) {
+    std::string changed = sound_;
+    for (std::size_t count = 1 + below(4); count > 0; --count) {
+      changed[below(i % 3 == 0 ? sound_.size() : front)] = static_cast<char>(below(256));
+    }
+    bundle_.folder().write("changed.icc", changed);
+    (void)usable("changed.icc");
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(OfGhostscript, HostileProfile,
+                         testing::Values(test::kMeasuredCMYK, test::kFormulaCMYK));
+
+}  // namespace
+}  // namespace gdi
