@@ -1,0 +1,75 @@
+// SPDX-FileCopyrightText: 2026 The rasterToGDI authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include <algorithm>
+
+#include <benchmark/benchmark.h>
+
+#include "bench/page_samples.h"
+#include "platform/ColorSync/CMWorld.h"
+
+namespace gdi::bench {
+namespace {
+
+struct Profiles {
+  const char* source;
+  const char* destination;
+};
+
+// Of Ghostscript; they are what every machine that builds this has.
+constexpr Profiles kCMYK{"ps_cmyk.icc", "default_cmyk.icc"};
+constexpr Profiles kGrey{"sgray.icc", "default_gray.icc"};
+
+CMWorldRef makeWorld(int channels) {
+  const Profiles& profiles = channels == 1 ? kGrey : kCMYK;
+  CMProfileRef source = nullptr;
+  CMProfileRef destination = nullptr;
+  CMWorldRef world = nullptr;
+  (void)CMOpenProfile(source, CMPathLocation(profiles.source));
+  (void)CMOpenProfile(destination, CMPathLocation(profiles.destination));
+  (void)NCWNewColorWorld(world, source, destination);
+  CMCloseProfile(source);
+  CMCloseProfile(destination);
+  return world;
+}
+
+// What every page with matching pays before its first line. Argument: channels.
+void MakeColorWorld(benchmark::State& state) {
+  for (auto _ : state) {
+    CWDisposeColorWorld(makeWorld(static_cast<int>(state.range(0))));
+  }
+}
+BENCHMARK(MakeColorWorld)->Arg(1)->Arg(kChannels)->Unit(benchmark::kMillisecond);
+
+// Arguments: content, channels. Each line is copied first, since matching is in place.
+void MatchLines(benchmark::State& state) {
+  const auto content = static_cast<Content>(state.range(0));
+  const auto channels = static_cast<int>(state.range(1));
+  CMWorldRef world = makeWorld(channels);
+  if (world == nullptr) {
+    state.SkipWithError("no profiles");
+    return;
+  }
+  const std::vector<std::uint8_t> line = chunkyLine(content, channels, 0);
+  std::vector<std::uint8_t> matched = line;
+  CMBitmap bitmap;
+  bitmap.image = matched.data();
+  bitmap.width = kPixels;
+  bitmap.height = 1;
+  bitmap.rowBytes = static_cast<std::uint32_t>(matched.size());
+  bitmap.pixelSize = static_cast<std::uint32_t>(8 * channels);
+  bitmap.space = channels == 1 ? cmGray8Space : cmCMYK32Space;
+  for (auto _ : state) {
+    std::ranges::copy(line, matched.begin());
+    (void)CWMatchBitmap(world, bitmap);
+    benchmark::DoNotOptimize(matched.data());
+  }
+  CWDisposeColorWorld(world);
+  state.SetLabel(nameOf(content));
+  state.SetBytesProcessed(static_cast<std::int64_t>(state.iterations()) *
+                          static_cast<std::int64_t>(line.size()));
+}
+BENCHMARK(MatchLines)->ArgsProduct({benchmark::CreateDenseRange(0, kContents - 1, 1), {1, 4}});
+
+}  // namespace
+}  // namespace gdi::bench
