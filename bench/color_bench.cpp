@@ -41,8 +41,10 @@ void MakeColorWorld(benchmark::State& state) {
 }
 BENCHMARK(MakeColorWorld)->Arg(1)->Arg(kChannels)->Unit(benchmark::kMillisecond);
 
-// Arguments: content, channels. Each line is copied first, since matching is in place.
+// Arguments: content, channels. The lines are as many of a page, in turn: matching remembers
+// colours. Each is copied first, since matching is in place.
 void MatchLines(benchmark::State& state) {
+  constexpr int kLines = 200;
   const auto content = static_cast<Content>(state.range(0));
   const auto channels = static_cast<int>(state.range(1));
   CMWorldRef world = makeWorld(channels);
@@ -50,8 +52,12 @@ void MatchLines(benchmark::State& state) {
     state.SkipWithError("no profiles");
     return;
   }
-  const std::vector<std::uint8_t> line = chunkyLine(content, channels, 0);
-  std::vector<std::uint8_t> matched = line;
+  std::vector<std::vector<std::uint8_t>> lines;
+  lines.reserve(kLines);
+  for (int row = 0; row < kLines; ++row) {
+    lines.push_back(chunkyLine(content, channels, row));
+  }
+  std::vector<std::uint8_t> matched = lines.front();
   CMBitmap bitmap;
   bitmap.image = matched.data();
   bitmap.width = kPixels;
@@ -59,15 +65,17 @@ void MatchLines(benchmark::State& state) {
   bitmap.rowBytes = static_cast<std::uint32_t>(matched.size());
   bitmap.pixelSize = static_cast<std::uint32_t>(8 * channels);
   bitmap.space = channels == 1 ? cmGray8Space : cmCMYK32Space;
+  std::size_t next = 0;
   for (auto _ : state) {
-    std::ranges::copy(line, matched.begin());
+    std::ranges::copy(lines[next], matched.begin());
+    next = (next + 1) % lines.size();
     (void)CWMatchBitmap(world, bitmap);
     benchmark::DoNotOptimize(matched.data());
   }
   CWDisposeColorWorld(world);
   state.SetLabel(nameOf(content));
   state.SetBytesProcessed(static_cast<std::int64_t>(state.iterations()) *
-                          static_cast<std::int64_t>(line.size()));
+                          static_cast<std::int64_t>(matched.size()));
 }
 BENCHMARK(MatchLines)->ArgsProduct({benchmark::CreateDenseRange(0, kContents - 1, 1), {1, 4}});
 

@@ -13,7 +13,7 @@
 #include <lcms2.h>
 
 #include "platform/ColorSync/OpaqueCMProfile.h"
-#include "platform/ColorSync/match_row.h"
+#include "platform/ColorSync/RememberedColors.h"
 #include "platform/ColorSync/rendering_intent.h"
 #include "platform/NSBundle.h"
 
@@ -27,7 +27,7 @@ struct OpaqueCMWorld {
 
   // Whether the bitmap's pixels are of the kind that this world matches.
   [[nodiscard]] virtual bool takes(const CMBitmap& bitmap) const = 0;
-  virtual void match(std::span<std::uint8_t> row) const = 0;
+  virtual void match(std::span<std::uint8_t> row) = 0;
 };
 
 namespace {
@@ -50,14 +50,13 @@ class CMYKWorld : public OpaqueCMWorld {
   [[nodiscard]] bool takes(const CMBitmap& bitmap) const override {
     return bitmap.space == cmCMYK32Space && bitmap.pixelSize == 32;
   }
-  void match(std::span<std::uint8_t> row) const override {
-    matchRow(row, [this](std::uint8_t* pixels, std::size_t count) {
-      cmsDoTransform(transform_.get(), pixels, pixels, static_cast<cmsUInt32Number>(count));
-    });
-  }
+  void match(std::span<std::uint8_t> row) override { colors_.matchRow(row); }
 
  private:
   Transform transform_;
+  RememberedColors colors_{[this](std::uint8_t* pixels, std::size_t count) {
+    cmsDoTransform(transform_.get(), pixels, pixels, static_cast<cmsUInt32Number>(count));
+  }};
 };
 
 // Every grey there is, matched beforehand without any interpolation.
@@ -71,9 +70,10 @@ class GreyWorld : public OpaqueCMWorld {
   [[nodiscard]] bool takes(const CMBitmap& bitmap) const override {
     return bitmap.space == cmGray8Space && bitmap.pixelSize == 8;
   }
-  void match(std::span<std::uint8_t> row) const override {
+  void match(std::span<std::uint8_t> row) override {
+    const std::array matched = matched_;  // which the row cannot overlap
     for (std::uint8_t& grey : row) {
-      grey = matched_[grey];
+      grey = matched[grey];
     }
   }
 
