@@ -92,12 +92,9 @@ TEST(ColorWorldSettings, ThatMakeNoSenseAreAnError) {
 class Bitmaps : public testing::Test {
  protected:
   Bitmaps() {
-    bitmap_.image = pixels_.data();
     bitmap_.width = 2;
     bitmap_.height = 2;
     bitmap_.rowBytes = 10;
-    bitmap_.pixelSize = 32;
-    bitmap_.space = cmCMYK32Space;
   }
 
   // Two rows of two pixels, two bytes apart.
@@ -107,7 +104,7 @@ class Bitmaps : public testing::Test {
   ColorWorld color_{test::kFormulaCMYK, test::kMeasuredCMYK};
   ColorWorld grey_{test::kGrey, test::kEvenGrey};
   std::array<std::uint8_t, 20> pixels_ = kPixels;
-  CMBitmap bitmap_;
+  CMBitmap bitmap_ = test::lineOf(pixels_);
 };
 
 TEST_F(Bitmaps, AreMatchedInPlaceRowByRowAndNothingBetweenTheRows) {

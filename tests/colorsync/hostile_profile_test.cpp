@@ -28,14 +28,8 @@ bool usable(const std::string& name) {
     const test::ColorWorld color(asSource ? name : test::kMeasuredCMYK,
                                  asSource ? test::kMeasuredCMYK : name);
     std::array<std::uint8_t, 12> pixels{0, 0, 0, 0, 255, 255, 255, 255, 3, 77, 150, 201};
-    CMBitmap line;
-    line.image = pixels.data();
-    line.width = 3;
-    line.height = 1;
-    line.rowBytes = 12;
-    line.pixelSize = 32;
-    line.space = cmCMYK32Space;
-    EXPECT_EQ(CWMatchBitmap(color.world, line), color.error == noErr ? noErr : paramErr);
+    EXPECT_EQ(CWMatchBitmap(color.world, test::lineOf(pixels)),
+              color.error == noErr ? noErr : paramErr);
     made = made || color.world != nullptr;
   }
   return made;

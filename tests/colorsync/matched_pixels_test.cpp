@@ -28,14 +28,7 @@ using test::transicc;
 Bytes matched(const std::string& source, const std::string& destination, Bytes pixels,
               std::uint32_t channels = 4) {
   const test::ColorWorld color(source, destination);
-  CMBitmap line;
-  line.image = pixels.data();
-  line.width = static_cast<std::uint32_t>(pixels.size()) / channels;
-  line.height = 1;
-  line.rowBytes = static_cast<std::uint32_t>(pixels.size());
-  line.pixelSize = 8 * channels;
-  line.space = channels == 1 ? cmGray8Space : cmCMYK32Space;
-  EXPECT_EQ(CWMatchBitmap(color.world, line), noErr);
+  EXPECT_EQ(CWMatchBitmap(color.world, test::lineOf(pixels, channels)), noErr);
   return pixels;
 }
 

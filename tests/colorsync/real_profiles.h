@@ -4,6 +4,8 @@
 // Real profiles of Debian's packages, and profiles and colour worlds that close themselves.
 #pragma once
 
+#include <cstdint>
+#include <span>
 #include <string>
 
 #include "platform/ColorSync/CMProfile.h"
@@ -19,6 +21,18 @@ inline const std::string kGrey = "/usr/share/color/icc/Gray.icc";
 inline const std::string kEvenGrey = "/usr/share/color/icc/Gray-CIE_L.icc";
 inline const std::string kRGB = "/usr/share/color/icc/sRGB.icc";
 inline const std::string kAbstract = "/usr/share/color/icc/CineLogCurve.icc";
+
+// One line of pixels of 4 bytes, CMYK, or of 1 byte, grey.
+inline CMBitmap lineOf(std::span<std::uint8_t> pixels, std::uint32_t channels = 4) {
+  CMBitmap line;
+  line.image = pixels.data();
+  line.width = static_cast<std::uint32_t>(pixels.size()) / channels;
+  line.height = 1;
+  line.rowBytes = static_cast<std::uint32_t>(pixels.size());
+  line.pixelSize = 8 * channels;
+  line.space = channels == 1 ? cmGray8Space : cmCMYK32Space;
+  return line;
+}
 
 class OpenProfile {
  public:
