@@ -2,11 +2,17 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include <algorithm>
+#include <array>
+#include <filesystem>
+#include <fstream>
+#include <string>
 
 #include <benchmark/benchmark.h>
+#include <unistd.h>
 
 #include "bench/page_samples.h"
 #include "platform/ColorSync/CMWorld.h"
+#include "platform/NSBundle.h"
 
 namespace gdi::bench {
 namespace {
@@ -33,13 +39,28 @@ CMWorldRef makeWorld(int channels) {
   return world;
 }
 
-// What every page with matching pays before its first line. Argument: channels.
+constexpr std::array kPreserveBlack{"", "ink", "plane"};
+
+// What every page with matching pays before its first line. Arguments: channels, what of black is
+// preserved.
 void MakeColorWorld(benchmark::State& state) {
+  const std::string word = kPreserveBlack.at(static_cast<std::size_t>(state.range(1)));
+  const std::filesystem::path bundle =
+      std::filesystem::temp_directory_path() / ("gdi_bench-" + std::to_string(getpid()));
+  std::filesystem::create_directories(bundle);
+  std::ofstream(bundle / "Info.plist") << "{ ColorPreserveBlack = \"" << word << "\"; }";
+  NSBundle::setMainBundle(bundle);
   for (auto _ : state) {
     CWDisposeColorWorld(makeWorld(static_cast<int>(state.range(0))));
   }
+  NSBundle::setMainBundle(GDI_BUNDLE);
+  std::filesystem::remove_all(bundle);
+  state.SetLabel(word);
 }
-BENCHMARK(MakeColorWorld)->Arg(1)->Arg(kChannels)->Unit(benchmark::kMillisecond);
+BENCHMARK(MakeColorWorld)
+    ->Args({1, 0})
+    ->ArgsProduct({{kChannels}, {0, 1, 2}})
+    ->Unit(benchmark::kMillisecond);
 
 // Arguments: content, channels. The lines are as many of a page, in turn: matching remembers
 // colours. Each is copied first, since matching is in place.

@@ -66,11 +66,12 @@ class PlanarFilter : public RasterFilter {
   CMError findDestinationProfile(CMProfileLocation& location);
   void matchLine();
   void endColorSync();
-  // Tells the user, once a job, that colours asked to be matched are not. `why` is what the error
-  // means when its own words do not say it.
+  // Tells the user, once a job, that colours expected to be matched are not. `why` is what the
+  // error means when its own words do not say it.
   void warnUnmatched(const std::string& what, CMError error, const char* why = nullptr);
   void deletePlanes();
 
+  bool matchingExpected_ = false;  // the bundle states a system before 10.3, not merely none
   bool unmatchedTold_ = false;
 };
 

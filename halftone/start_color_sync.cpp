@@ -19,9 +19,21 @@ namespace {
 
 constexpr std::int32_t kLastVersionWithoutUpstreamMatching = 0x102F;  // up to 10.2.x
 
+// The path for a line of standard error: what would break the line is shown as '?'.
 std::string quoted(const CMProfileLocation& location) {
   const std::string_view path(location.path.data(), location.path.size());
-  return std::string("\"").append(path.substr(0, path.find('\0'))).append("\"");
+  std::string text("\"");
+  for (const char character : path.substr(0, path.find('\0'))) {
+    text += static_cast<unsigned char>(character) < ' ' ? '?' : character;
+  }
+  return text + "\"";
+}
+
+// The text under that key of the information dictionary; empty when there is none.
+std::string informationText(std::string_view key) {
+  const PropertyListValue* information = NSBundle::mainBundle().infoDictionary();
+  const PropertyListValue* entry = information == nullptr ? nullptr : information->find(key);
+  return entry != nullptr && entry->string() != nullptr ? *entry->string() : std::string();
 }
 
 }  // namespace
@@ -32,6 +44,7 @@ bool PlanarFilter::startColorSync() {
     CPSDebugLog("startColorSync skipping OS version 0x%x", static_cast<unsigned>(version));
     return true;
   }
+  matchingExpected_ = version != 0;
   if (const CMError error = makeColorWorld(); error != noErr) {
     CPSDebugLog("startColorSync failed: %d", static_cast<int>(error));
     return true;
@@ -85,9 +98,7 @@ CMError PlanarFilter::makeColorWorld() {
 // The profile of the incoming pixels: the bundle's, else the one registered for the job's printer
 // under the job's profile ID, else that printer's default.
 CMError PlanarFilter::findSourceProfile(CMProfileLocation& location) {
-  const std::string path =
-      NSBundle::mainBundle().objectForInfoDictionaryKey("MacOS102SourceProfile").value_or("");
-  if (!path.empty()) {
+  if (const std::string path = informationText("MacOS102SourceProfile"); !path.empty()) {
     location = CMPathLocation(path);
     return noErr;
   }
@@ -135,7 +146,7 @@ void PlanarFilter::matchLine() {
   if (const CMError error = CWMatchBitmap(colorWorld, sourceBitmap); error != noErr) {
     CPSDebugAssert_("CWMatchBitmap failed: %d", static_cast<int>(error));
     warnUnmatched(channelCount == 1 ? "a page of black" : "a page of CMYK", error,
-                  "the profiles are for other colours");
+                  error == cmInvalidColorSpace ? "the profiles are for other colours" : nullptr);
   }
 }
 
@@ -145,7 +156,7 @@ void PlanarFilter::endColorSync() {
 }
 
 void PlanarFilter::warnUnmatched(const std::string& what, CMError error, const char* why) {
-  if (!unmatchedTold_) {
+  if (matchingExpected_ && !unmatchedTold_) {
     (void)std::fprintf(stderr, "WARNING: colours are printed unmatched: %s: %s (%d)\n",
                        what.c_str(), why != nullptr ? why : CMErrorText(error),
                        static_cast<int>(error));

@@ -10,7 +10,7 @@ namespace gdi {
 CMProfileLocation CMPathLocation(std::string_view path) {
   CMProfileLocation location;
   location.locType = cmPathBasedProfile;
-  std::ranges::copy(path.substr(0, kProfilePathBytes), location.path.begin());
+  std::ranges::copy(path.substr(0, location.path.size()), location.path.begin());
   return location;
 }
 

@@ -13,11 +13,11 @@
 namespace gdi {
 
 inline constexpr std::int16_t cmPathBasedProfile = 5;
-inline constexpr std::size_t kProfilePathBytes = 1024;
+inline constexpr std::size_t kProfilePathBytes = 1024;  // the longest path
 
 struct CMProfileLocation {
   std::int16_t locType = 0;
-  std::array<char, kProfilePathBytes> path{};  // ends with a NUL, unless it was too long
+  std::array<char, kProfilePathBytes + 1> path{};  // ends with a NUL, unless it was too long
 };
 
 // The location of that path or name, as much of it as there is room for.

@@ -66,6 +66,7 @@ class GreyWorld : public OpaqueCMWorld {
     std::iota(matched_.begin(), matched_.end(), std::uint8_t{0});
     cmsDoTransform(transform.get(), matched_.data(), matched_.data(),
                    static_cast<cmsUInt32Number>(matched_.size()));
+    matched_.front() = 0;
   }
   [[nodiscard]] bool takes(const CMBitmap& bitmap) const override {
     return bitmap.space == cmGray8Space && bitmap.pixelSize == 8;
@@ -110,13 +111,17 @@ CMError NCWNewColorWorld(CMWorldRef& world, CMProfileRef source, CMProfileRef de
   if (space != cmsGetColorSpace(to) || (space != cmsSigCmykData && space != cmsSigGrayData)) {
     return cmInvalidColorSpace;
   }
-  const std::optional<std::uint32_t> intent = renderingIntentFor(
-      cmsGetHeaderRenderingIntent(from),
-      NSBundle::mainBundle().objectForInfoDictionaryKey("ColorPreserveBlack").value_or(""));
+  const std::string preserveBlack =
+      NSBundle::mainBundle().objectForInfoDictionaryKey("ColorPreserveBlack").value_or("");
+  const std::optional<std::uint32_t> intent =
+      renderingIntentFor(cmsGetHeaderRenderingIntent(from), preserveBlack);
   if (!intent) {
     return paramErr;
   }
   const bool color = space == cmsSigCmykData;
+  if (color && !preserveBlack.empty() && cmsGetDeviceClass(to) != cmsSigOutputClass) {
+    return cmErrIncompatibleProfile;  // the engine preserves the black of printers alone
+  }
   // Ink is turned over for grey, of which profiles take 0 for black.
   Transform transform =
       color ? makeTransform(from, to, TYPE_CMYK_8, *intent, 0)

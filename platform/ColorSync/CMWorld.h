@@ -18,15 +18,17 @@ using CMWorldRef = OpaqueCMWorld*;
 // profile's header; what black text does, the information dictionary's "ColorPreserveBlack" says
 // (rendering_intent.h). On an error `world` is null:
 //   cmInvalidColorSpace       another pair of colour spaces
-//   cmErrIncompatibleProfile  a class without device colours at that end: links, abstract, named
+//   cmErrIncompatibleProfile  a class without device colours at that end: links, abstract, named;
+//   or
+//                             black to be preserved on what is no printer
 //   paramErr                  no profile, or "ColorPreserveBlack" is none of its words
 //   cmInvalidProfile          the tables that are needed are missing or broken
 [[nodiscard]] CMError NCWNewColorWorld(CMWorldRef& world, CMProfileRef source,
                                        CMProfileRef destination);
 
-// Matches the bitmap's pixels in place. paramErr: the bitmap has no image, or rows shorter than its
-// pixels; cmInvalidColorSpace: its space or pixel size is not that of the world. No pixel has
-// changed then.
+// Matches the bitmap's pixels in place. Paper, a pixel without ink, stays paper. paramErr: the
+// bitmap has no image, or rows shorter than its pixels; cmInvalidColorSpace: its space or pixel
+// size is not that of the world. No pixel has changed then.
 [[nodiscard]] CMError CWMatchBitmap(CMWorldRef world, const CMBitmap& bitmap);
 
 // Null is disposed of without effect.

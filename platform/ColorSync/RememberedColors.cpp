@@ -13,6 +13,8 @@ namespace {
 constexpr unsigned kPlaceBits =
     14;  // 16,384 colours, 128 KiB: the colours of some rows of a picture
 
+constexpr std::uint32_t kPaper = 0;  // never remembered, so that it marks an empty place
+
 // Fibonacci hashing: neighbouring colours are spread over all places.
 std::size_t placeOf(std::uint32_t pixel) {
   return pixel * 0x9E3779B1U >> (32 - kPlaceBits);
@@ -34,10 +36,6 @@ void fill(std::uint8_t* begin, const std::uint8_t* end, std::uint32_t pixel) {
 
 RememberedColors::RememberedColors(MatchPixels matchPixels)
     : matchPixels_(std::move(matchPixels)), colors_(std::size_t{1} << kPlaceBits) {
-  // No place is ever empty: paper may stand in all of them.
-  Color paper{};
-  matchPixels_(reinterpret_cast<std::uint8_t*>(&paper.matched), 1);
-  colors_.assign(colors_.size(), paper);
 }
 
 void RememberedColors::matchRow(std::span<std::uint8_t> row) {
@@ -51,6 +49,9 @@ void RememberedColors::matchRow(std::span<std::uint8_t> row) {
     end = begin + 1;
     while (end < count && loadPixel(at(end)) == pixel) {
       ++end;
+    }
+    if (pixel == kPaper) {
+      continue;
     }
     if (const Color& known = colors_[placeOf(pixel)]; known.pixel == pixel) {
       fill(at(begin), at(end), known.matched);

@@ -21,7 +21,8 @@ class RememberedColors {
 
   explicit RememberedColors(MatchPixels matchPixels);
 
-  // What matchPixels makes of the row's pixels, in place. `row` holds whole pixels.
+  // What matchPixels makes of the row's pixels, in place, but for pixels without ink, which stay so
+  // whatever a profile says of paper. `row` holds whole pixels.
   void matchRow(std::span<std::uint8_t> row);
 
  private:

@@ -9,18 +9,21 @@ namespace gdi {
 
 std::optional<std::uint32_t> renderingIntentFor(std::uint32_t headerIntent,
                                                 std::string_view preserveBlack) {
-  const std::uint32_t intent =
-      headerIntent <= INTENT_ABSOLUTE_COLORIMETRIC ? headerIntent : INTENT_PERCEPTUAL;
+  std::uint32_t intent = INTENT_PERCEPTUAL;
+  if (headerIntent == INTENT_SATURATION) {
+    intent = INTENT_SATURATION;
+  } else if (headerIntent == INTENT_RELATIVE_COLORIMETRIC ||
+             headerIntent == INTENT_ABSOLUTE_COLORIMETRIC) {
+    intent = INTENT_RELATIVE_COLORIMETRIC;
+  }
   if (preserveBlack.empty()) {
     return intent;
   }
-  const std::uint32_t inGamut =
-      intent == INTENT_ABSOLUTE_COLORIMETRIC ? INTENT_RELATIVE_COLORIMETRIC : intent;
   if (preserveBlack == "ink") {
-    return INTENT_PRESERVE_K_ONLY_PERCEPTUAL + inGamut;
+    return INTENT_PRESERVE_K_ONLY_PERCEPTUAL + intent;
   }
   if (preserveBlack == "plane") {
-    return INTENT_PRESERVE_K_PLANE_PERCEPTUAL + inGamut;
+    return INTENT_PRESERVE_K_PLANE_PERCEPTUAL + intent;
   }
   return std::nullopt;
 }

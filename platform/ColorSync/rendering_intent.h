@@ -15,8 +15,8 @@ namespace gdi {
 //   ""       all inks are matched alike
 //   "ink"    colours of black ink alone stay black ink alone, by the tone
 //   "plane"  the black ink of every colour stays, by the tone; the other inks make up for it
-// Header intents: 0 perceptual, 1 relative, 2 saturation, 3 absolute; any other counts as
-// perceptual. Black is preserved in relative colours where the header asks for absolute ones.
+// Header intents: 0 perceptual, 1 relative, 2 saturation. 3, absolute, counts as relative, since it
+// prints the colour of the source's paper on all that is blank; any other counts as perceptual.
 // Nothing for any other word.
 [[nodiscard]] std::optional<std::uint32_t> renderingIntentFor(std::uint32_t headerIntent,
                                                               std::string_view preserveBlack);

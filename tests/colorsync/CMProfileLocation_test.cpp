@@ -14,17 +14,17 @@ TEST(ProfileLocation, IsOfThePathBasedKindAndZeroBehindThePath) {
   const CMProfileLocation location = CMPathLocation("a.icc");
   EXPECT_EQ(location.locType, 5);
   EXPECT_EQ(std::string(location.path.begin(), location.path.end()),
-            "a.icc" + std::string(1019, '\0'));
+            "a.icc" + std::string(1020, '\0'));
   EXPECT_EQ(pathOfLocation(location), "a.icc");
 }
 
-TEST(ProfileLocation, HasRoomForAPathOf1023Bytes) {
-  const std::string path(1023, 'x');
+TEST(ProfileLocation, HasRoomForAPathOf1024Bytes) {
+  const std::string path(1024, 'x');
   EXPECT_EQ(pathOfLocation(CMPathLocation(path)), path);
 }
 
 TEST(ProfileLocation, OfALongerPathIsCutAndLeadsNowhere) {
-  for (const std::size_t length : {1024, 1025, 5000}) {
+  for (const std::size_t length : {1025, 1026, 5000}) {
     const CMProfileLocation location = CMPathLocation(std::string(length, 'x'));
     EXPECT_EQ(location.path.back(), 'x');
     EXPECT_EQ(pathOfLocation(location), std::nullopt);

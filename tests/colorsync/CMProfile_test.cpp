@@ -59,7 +59,7 @@ TEST_F(Profile, BelowAFileIsNotFound) {
 }
 
 TEST_F(Profile, OfAPathThatIsTooLongIsNoLocation) {
-  EXPECT_EQ(OpenProfile("/" + std::string(1023, 'x')).error, cmInvalidProfileLocation);
+  EXPECT_EQ(OpenProfile("/" + std::string(1024, 'x')).error, cmInvalidProfileLocation);
 }
 
 TEST_F(Profile, ThatIsAFolderCannotBeRead) {

@@ -89,6 +89,21 @@ TEST(ColorWorldSettings, ThatMakeNoSenseAreAnError) {
   EXPECT_EQ(made.world, nullptr);
 }
 
+TEST(ColorWorldSettings, PreserveBlackOnPrintersAlone) {
+  std::string profile = test::contentsOf(test::kMeasuredCMYK);
+  profile.replace(12, 4, "spac");  // the header's class
+  test::TemporaryFolder folder;
+  const std::string space = folder.write("space.icc", profile).string();
+  for (const char* word : {"ink", "plane"}) {
+    const test::TestBundle bundle{{"ColorPreserveBlack", word}};
+    EXPECT_EQ(ColorWorld(test::kFormulaCMYK, space).error, cmErrIncompatibleProfile);
+    EXPECT_EQ(ColorWorld(space, test::kFormulaCMYK).error, noErr);
+    EXPECT_EQ(ColorWorld(test::kGrey, test::kEvenGrey).error, noErr);
+  }
+  const test::TestBundle bundle;
+  EXPECT_EQ(ColorWorld(test::kFormulaCMYK, space).error, noErr);
+}
+
 class Bitmaps : public testing::Test {
  protected:
   Bitmaps() {

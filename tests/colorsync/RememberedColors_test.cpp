@@ -66,9 +66,15 @@ TEST_F(RememberedColorsTest, MatchNoColourOfTheRowBeforeAgain) {
   EXPECT_EQ(calls_, (std::vector<std::size_t>{1}));
 }
 
-TEST_F(RememberedColorsTest, KnowPaperFromTheBeginning) {
-  EXPECT_EQ(matched(Bytes(400)), Bytes(400, 255));
-  EXPECT_TRUE(calls_.empty());
+TEST_F(RememberedColorsTest, LeavePaperAlone) {
+  Bytes row(400);
+  row[201] = 1;
+  Bytes expected(400);
+  for (const std::size_t i : {200, 201, 202, 203}) {
+    expected[i] = inverse(row[i]);
+  }
+  EXPECT_EQ(matched(row), expected);
+  EXPECT_EQ(calls_, (std::vector<std::size_t>{1}));
 }
 
 TEST_F(RememberedColorsTest, MatchMoreColoursThanTheyCanRemember) {

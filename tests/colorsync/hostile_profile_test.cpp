@@ -21,28 +21,36 @@ constexpr int kChanges = 8;
 constexpr int kChanges = 40;
 #endif
 
-// Uses the profile at both ends, on a few pixels; true when a colour world was made of it.
-bool usable(const std::string& name) {
-  bool made = false;
-  for (const bool asSource : {true, false}) {
-    const test::ColorWorld color(asSource ? name : test::kMeasuredCMYK,
-                                 asSource ? test::kMeasuredCMYK : name);
-    std::array<std::uint8_t, 12> pixels{0, 0, 0, 0, 255, 255, 255, 255, 3, 77, 150, 201};
-    EXPECT_EQ(CWMatchBitmap(color.world, test::lineOf(pixels)),
-              color.error == noErr ? noErr : paramErr);
-    made = made || color.world != nullptr;
-  }
-  return made;
-}
+// A real profile, a sound one of the same colours, and what the bundle says of black.
+struct HostileCase {
+  std::string profile;
+  std::string partner;
+  std::string preserveBlack{};
+};
 
-class HostileProfile : public testing::TestWithParam<std::string> {
+class HostileProfile : public testing::TestWithParam<HostileCase> {
  protected:
-  test::TestBundle bundle_;
-  std::string sound_ = test::contentsOf(GetParam());
+  // Uses the profile at both ends, on a few pixels; true when a colour world was made of it.
+  static bool usable(const std::string& name) {
+    const std::string& partner = GetParam().partner;
+    const std::uint32_t channels = partner == test::kEvenGrey ? 1 : 4;
+    bool made = false;
+    for (const bool asSource : {true, false}) {
+      const test::ColorWorld color(asSource ? name : partner, asSource ? partner : name);
+      std::array<std::uint8_t, 12> pixels{0, 0, 0, 0, 255, 255, 255, 255, 3, 77, 150, 201};
+      EXPECT_EQ(CWMatchBitmap(color.world, test::lineOf(pixels, channels)),
+                color.error == noErr ? noErr : paramErr);
+      made = made || color.world != nullptr;
+    }
+    return made;
+  }
+
+  test::TestBundle bundle_{{"ColorPreserveBlack", GetParam().preserveBlack}};
+  std::string sound_ = test::contentsOf(GetParam().profile);
 };
 
 TEST_P(HostileProfile, ThatIsWholeIsUsable) {
-  EXPECT_TRUE(usable(GetParam()));
+  EXPECT_TRUE(usable(GetParam().profile));
 }
 
 TEST_P(HostileProfile, CutAnywhereIsRefusedOrUsed) {
@@ -68,8 +76,12 @@ TEST_P(HostileProfile, ChangedAnywhereIsRefusedOrUsed) {
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(OfGhostscript, HostileProfile,
-                         testing::Values(test::kMeasuredCMYK, test::kFormulaCMYK));
+INSTANTIATE_TEST_SUITE_P(OfDebian, HostileProfile,
+                         testing::Values(HostileCase{test::kMeasuredCMYK, test::kFormulaCMYK},
+                                         HostileCase{test::kFormulaCMYK, test::kMeasuredCMYK},
+                                         HostileCase{test::kFormulaCMYK, test::kMeasuredCMYK,
+                                                     "ink"},
+                                         HostileCase{test::kGrey, test::kEvenGrey}));
 
 }  // namespace
 }  // namespace gdi

@@ -9,7 +9,7 @@ namespace gdi {
 namespace {
 
 TEST(RenderingIntent, IsThatOfTheHeader) {
-  for (std::uint32_t intent = 0; intent < 4; ++intent) {
+  for (std::uint32_t intent = 0; intent < 3; ++intent) {
     EXPECT_EQ(renderingIntentFor(intent, ""), intent);
   }
 }
@@ -28,7 +28,8 @@ TEST(RenderingIntent, PreservesBlackInkOrTheBlackPlane) {
   EXPECT_EQ(renderingIntentFor(2, "plane"), 15U);
 }
 
-TEST(RenderingIntent, PreservesBlackInRelativeColoursWhereAbsoluteOnesAreAsked) {
+TEST(RenderingIntent, IsRelativeWhereTheHeaderAsksForAbsoluteColours) {
+  EXPECT_EQ(renderingIntentFor(3, ""), 1U);
   EXPECT_EQ(renderingIntentFor(3, "ink"), 11U);
   EXPECT_EQ(renderingIntentFor(3, "plane"), 14U);
 }

@@ -164,6 +164,11 @@ TEST_F(ColorMatching, OnAnUnknownSystemIsTriedAsOnVersionZero) {
       (Lines{"ASSERT: Gestalt(gestaltSystemVersion) failed -5550", "startColorSync succeeded"}));
 }
 
+TEST_F(ColorMatching, ThatFailsOnAnUnknownSystemIsNotToldTheUserWhoMayNotExpectIt) {
+  EXPECT_EQ(startPage({}).back(), "startColorSync failed: -4229");
+  EXPECT_EQ(warnings(), "");
+}
+
 constexpr char kDevices[] = R"(ColorDevices = {
   "7" = { DefaultProfile = 2; Profiles = { "1" = "ps_cmyk.icc"; "2" = "missing.icc"; }; };
   "8" = { DefaultProfile = 1; Profiles = { "1" = "ps_cmyk.icc"; }; };
@@ -178,6 +183,13 @@ TEST_F(ColorMatching, TakesTheProfileOfTheJobsDeviceAndProfileIDs) {
 
 TEST_F(ColorMatching, TakesTheTableForMissingWhenTheBundlesSourceIsEmpty) {
   EXPECT_EQ(startPage({{"SystemVersion", "10.2"}, {"MacOS102SourceProfile", ""}}, kDevices,
+                      {{kDevice, "8"}, {kProfile, "1"}}),
+            (Lines{"startColorSync succeeded"}));
+}
+
+TEST_F(ColorMatching, TakesTheTableWhenTheBundlesSourceIsNoText) {
+  EXPECT_EQ(startPage({{"SystemVersion", "10.2"}},
+                      std::string("MacOS102SourceProfile = (\"ps_cmyk.icc\");") + kDevices,
                       {{kDevice, "8"}, {kProfile, "1"}}),
             (Lines{"startColorSync succeeded"}));
 }
@@ -258,6 +270,15 @@ TEST_F(ColorMatching, FailsWhenThePrintersProfileCannotBeRead) {
   EXPECT_EQ(matchedLine(line_), line_);
 }
 
+TEST_F(ColorMatching, TellsAPathInOneLine) {
+  printerProfile_ = "two\nlines";
+  EXPECT_EQ(startPage(formulaOn102_).back(), "startColorSync failed: -43");
+  EXPECT_EQ(
+      warnings(),
+      "WARNING: colours are printed unmatched: printer profile \"two?lines\": there is no such "
+      "file (-43)\n");
+}
+
 TEST_F(ColorMatching, FailsWhenThePrintersProfileIsNone) {
   printerProfile_ = "ScreenSets.plist";  // of the bundle
   EXPECT_EQ(startPage(formulaOn102_), (Lines{"ASSERT: CMOpenProfile failed on dest profile: -4204",
@@ -265,7 +286,7 @@ TEST_F(ColorMatching, FailsWhenThePrintersProfileIsNone) {
 }
 
 TEST_F(ColorMatching, FailsWhenAPathIsTooLong) {
-  printerProfile_ = "/" + std::string(1023, 'x');
+  printerProfile_ = "/" + std::string(1024, 'x');
   EXPECT_EQ(startPage(formulaOn102_), (Lines{"ASSERT: CMOpenProfile failed on dest profile: -4205",
                                              "startColorSync failed: -4205"}));
 }

@@ -4,7 +4,7 @@
 // Jobs with and without colour matching through the whole program, each byte of the stream
 // compared.
 
-#include <array>
+#include <sstream>
 #include <string>
 
 #include <gtest/gtest.h>
@@ -12,6 +12,7 @@
 #include "tests/program/expected_stream.h"
 #include "tests/program/filter_process.h"
 #include "tests/program/test_bundle.h"
+#include "tests/support/TemporaryFolder.h"
 #include "tests/support/transicc.h"
 
 namespace gdi::programtest {
@@ -43,21 +44,32 @@ Bytes solidInks() {
 
 class MatchedJob : public testing::Test {
  protected:
-  // The stream that comes of the page on a system of that version, its bundle with these entries.
+  // The stream that comes of the page, as often as it is asked for, on a system of that version,
+  // its bundle with these entries.
   Bytes printed(const RasterPage& page, const std::string& version,
                 const std::string& information) {
     FilterProcess filter;
     const std::filesystem::path bundle = filter.folder() / "bundle";
     writeTestBundle(bundle, "SystemVersion = \"" + version + "\"; " + information);
     filter.bundle = bundle;
-    filter.options = "Gradiation=Fine";
+    filter.options = "Gradiation=Fine " + options_;
     filter.ppd = ppdText(ppdLines_);
     filter.debugLog = true;
-    filter.raster = rasterOf(std::vector{page});
+    filter.raster = rasterOf(std::vector(pages_, page));
     const FilterResult result = filter.run();
     EXPECT_EQ(result.exitStatus, 0) << result.errors;
     debugLog_ = result.debugLog;
     return withoutDate(result.output);
+  }
+
+  // How many lines of the debug log end with that message.
+  [[nodiscard]] std::ptrdiff_t linesOfLog(const std::string& message) const {
+    std::istringstream lines(debugLog_);
+    std::ptrdiff_t count = 0;
+    for (std::string line; std::getline(lines, line);) {
+      count += line.ends_with(" " + message) ? 1 : 0;
+    }
+    return count;
   }
 
   static Bytes expected(const RasterPage& page) {
@@ -68,6 +80,8 @@ class MatchedJob : public testing::Test {
                                 .destination = "/usr/share/color/icc/ghostscript/default_cmyk.icc"};
   const std::string cmykSettings_ =
       "MacOS102SourceProfile = \"ps_cmyk.icc\"; cupsICCProfile = \"default_cmyk.icc\";";
+  std::size_t pages_ = 1;
+  std::string options_;
   std::string ppdLines_;
   std::string debugLog_;
 };
@@ -79,7 +93,7 @@ TEST_F(MatchedJob, PrintsThePlanesOfTheMatchedPixels) {
   const RasterPage page = striped(inks, 4);
   const RasterPage matchedPage = striped(matchedInks, 4);
   EXPECT_TRUE(printed(page, "10.2.8", cmykSettings_) == expected(matchedPage));
-  EXPECT_NE(debugLog_.find("startColorSync succeeded\n"), std::string::npos);
+  EXPECT_EQ(linesOfLog("startColorSync succeeded"), 1);
 
   // Paper stays paper; solid black becomes all four inks, and every plane has them.
   for (std::uint32_t plane = 0; plane < 4; ++plane) {
@@ -93,7 +107,7 @@ TEST_F(MatchedJob, PrintsThePlanesOfTheMatchedPixels) {
 TEST_F(MatchedJob, OfTenThreeAndLaterPrintsThePixelsAsTheyCome) {
   const RasterPage page = striped(solidInks(), 4);
   EXPECT_TRUE(printed(page, "10.3", cmykSettings_) == expected(page));
-  EXPECT_NE(debugLog_.find("startColorSync skipping OS version 0x1030\n"), std::string::npos);
+  EXPECT_EQ(linesOfLog("startColorSync skipping OS version 0x1030"), 1);
 }
 
 TEST_F(MatchedJob, TakesThePrintersProfileOfThePPDBeforeThatOfTheBundle) {
@@ -128,10 +142,25 @@ TEST_F(MatchedJob, OfBlackPrintsTheMatchedGreys) {
                       "\"Gray-CIE_L.icc\";") == expected(striped(matched, 1)));
 }
 
+TEST_F(MatchedJob, HasABlankFillerPageThoughTheSourceAsksForItsPapersColour) {
+  test::TemporaryFolder folder;
+  std::string profile = test::contentsOf(cmyk_.destination);
+  profile.replace(64, 4, std::string("\0\0\0\3", 4));  // absolute colorimetric, in the header
+  const std::string source = folder.write("absolute.icc", profile).string();
+  options_ =
+      "com.apple.print.PrintSettings.PMDuplexing..n.=2 "
+      "com.apple.print.PrintSettings.PMTotalSidesImaged..n.=3";
+  pages_ = 3;
+  // That the stream keeps its format, with a filler page that is blank, every run asserts.
+  (void)printed(striped(solidInks(), 4), "10.2.8",
+                "MacOS102SourceProfile = \"" + source + "\"; cupsICCProfile = \"ps_cmyk.icc\";");
+  EXPECT_EQ(linesOfLog("startColorSync succeeded"), 4);
+}
+
 TEST_F(MatchedJob, ThatCannotBeMatchedIsPrintedAsItComes) {
   const RasterPage page = striped(solidInks(), 4);
   EXPECT_TRUE(printed(page, "10.2.8", "cupsICCProfile = \"missing.icc\";") == expected(page));
-  EXPECT_NE(debugLog_.find("startColorSync failed: -4229\n"), std::string::npos);
+  EXPECT_EQ(linesOfLog("startColorSync failed: -4229"), 1);
 }
 
 }  // namespace
