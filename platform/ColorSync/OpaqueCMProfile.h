@@ -10,11 +10,12 @@
 
 namespace gdi {
 
+struct ProfileCloser {
+  void operator()(cmsHPROFILE profile) const { cmsCloseProfile(profile); }
+};
+
 struct OpaqueCMProfile {
-  struct Closer {
-    void operator()(cmsHPROFILE profile) const { cmsCloseProfile(profile); }
-  };
-  std::unique_ptr<void, Closer> profile;  // never null
+  std::unique_ptr<void, ProfileCloser> profile;  // never null
 };
 
 }  // namespace gdi

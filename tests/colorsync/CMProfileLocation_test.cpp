@@ -24,7 +24,7 @@ TEST(ProfileLocation, HasRoomForAPathOf1024Bytes) {
 }
 
 TEST(ProfileLocation, OfALongerPathIsCutAndLeadsNowhere) {
-  for (const std::size_t length : {1025, 1026, 5000}) {
+  for (const std::size_t length : {1025U, 1026U, 5000U}) {
     const CMProfileLocation location = CMPathLocation(std::string(length, 'x'));
     EXPECT_EQ(location.path.back(), 'x');
     EXPECT_EQ(pathOfLocation(location), std::nullopt);

@@ -126,10 +126,10 @@ TEST_F(Bitmaps, AreMatchedInPlaceRowByRowAndNothingBetweenTheRows) {
   EXPECT_EQ(CWMatchBitmap(color_.world, bitmap_), noErr);
   EXPECT_NE(pixels_[0], 255);
   EXPECT_NE(pixels_[11], 255);
-  for (const std::size_t between : {8, 9, 18, 19}) {
+  for (const std::size_t between : {8U, 9U, 18U, 19U}) {
     EXPECT_EQ(pixels_.at(between), kPixels.at(between));
   }
-  for (const std::size_t white : {14, 15, 16, 17}) {
+  for (const std::size_t white : {14U, 15U, 16U, 17U}) {
     EXPECT_EQ(pixels_.at(white), 0);
   }
 }

@@ -70,7 +70,7 @@ TEST_F(RememberedColorsTest, LeavePaperAlone) {
   Bytes row(400);
   row[201] = 1;
   Bytes expected(400);
-  for (const std::size_t i : {200, 201, 202, 203}) {
+  for (const std::size_t i : {200U, 201U, 202U, 203U}) {
     expected[i] = inverse(row[i]);
   }
   EXPECT_EQ(matched(row), expected);
