@@ -16,7 +16,7 @@ namespace gdi::test {
 // Of Ghostscript; both CMYK, one by formula, one measured.
 inline const std::string kFormulaCMYK = "/usr/share/color/icc/ghostscript/ps_cmyk.icc";
 inline const std::string kMeasuredCMYK = "/usr/share/color/icc/ghostscript/default_cmyk.icc";
-// Of icc-profiles-free: grey of gamma 2.2 and of the eye's own tones, and others.
+// Of icc-profiles-free: linear grey, grey of the eye's own steps, and others.
 inline const std::string kGrey = "/usr/share/color/icc/Gray.icc";
 inline const std::string kEvenGrey = "/usr/share/color/icc/Gray-CIE_L.icc";
 inline const std::string kRGB = "/usr/share/color/icc/sRGB.icc";
