@@ -60,6 +60,8 @@ class PlanarFilter : public RasterFilter {
   bool makePlane(std::size_t channel);
   bool chooseScreenSet();
   bool loadScreenSet();
+  // Sets up colour matching where the bundle asks for it. Always true: matching is an improvement,
+  // never a condition.
   bool startColorSync();
   CMError makeColorWorld();
   CMError findSourceProfile(CMProfileLocation& location);

@@ -1,8 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The rasterToGDI authors
 // SPDX-License-Identifier: Apache-2.0
 
-// How the planar stage sets up colour matching for a page. Nothing here ever fails the page:
-// matching is an improvement, never a condition.
+// The colour matching of the planar stage: its set-up for a page, each line, its end.
 
 #include <cstdio>
 #include <string>
