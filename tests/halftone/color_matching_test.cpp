@@ -82,6 +82,7 @@ class ColorMatching : public testing::Test {
   // Cyan, half black, white and so on.
   const Bytes line_{255, 0, 0, 0, 0,   0,   0, 128, 0,   0,   0,   0,   255, 255, 255, 255,
                     0,   0, 0, 0, 255, 255, 0, 0,   255, 255, 255, 255, 0,   0,   0,   255};
+  const test::TransiccJob formulaToMeasured_{.source = kFormulaCMYK, .destination = kMeasuredCMYK};
   const Texts formulaOn102_{{"SystemVersion", "10.2.8"}, {"MacOS102SourceProfile", kFormulaCMYK}};
 
   test::DebugLogCapture log_;
@@ -114,8 +115,7 @@ TEST_F(ColorMatching, MatchesEachLineOfColourInPlace) {
   EXPECT_EQ(bitmap.pixelSize, 32U);
   EXPECT_EQ(bitmap.space, 0x0802U);
 
-  const Bytes expected =
-      test::transicc({.source = kFormulaCMYK, .destination = kMeasuredCMYK}, line_);
+  const Bytes expected = transicc(formulaToMeasured_, line_);
   const Bytes matched = matchedLine(line_);
   ASSERT_EQ(matched.size(), expected.size());
   for (std::size_t i = 0; i < matched.size(); ++i) {
@@ -140,6 +140,25 @@ TEST_F(ColorMatching, MatchesEachLineOfGreyInPlace) {
                                         greys);
   EXPECT_EQ(matchedLine(greys), expected);
   EXPECT_NE(expected, greys);
+}
+
+TEST_F(ColorMatching, IsDoneAgainOnPixelsThatTheNextLineLeaves) {
+  (void)startPage(formulaOn102_);
+  const Bytes black{0, 0, 0, 255};
+  Bytes line(32);
+  std::ranges::copy(black, line.end() - 4);
+  const Bytes once = matchedLine(line);
+  EXPECT_EQ(Bytes(once.end() - 4, once.end()), transicc(formulaToMeasured_, black));
+  // A line of seven pixels: the eighth keeps what it held, as padding does.
+  (void)matchedLine(Bytes(28));
+  const std::uint8_t* padding = filter_->rasterBuffer.data() + 28;
+  Bytes again(once.end() - 4, once.end());
+  const Bytes expected = transicc(formulaToMeasured_, again);
+  for (std::size_t i = 0; i < 4; ++i) {
+    EXPECT_NEAR(padding[i], expected[i], 2) << "ink " << i;
+  }
+  // Paper stays paper, however often.
+  EXPECT_EQ(matchedLine(Bytes(28)), Bytes(28));
 }
 
 TEST_F(ColorMatching, IsOverWithThePage) {

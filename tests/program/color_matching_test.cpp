@@ -123,6 +123,7 @@ TEST_F(MatchedJob, KeepsBlackInkAloneWhereTheBundleSaysSo) {
   const RasterPage page = striped(inks, 4);
   EXPECT_TRUE(printed(page, "10.2.8", cmykSettings_ + "ColorPreserveBlack = ink;") ==
               expected(page));
+  EXPECT_EQ(linesOfLog("startColorSync succeeded"), 1);
 }
 
 TEST_F(MatchedJob, OfBlackPrintsTheMatchedGreys) {
