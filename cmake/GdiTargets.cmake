@@ -8,6 +8,7 @@ find_library(CUPS_LIBRARY cups REQUIRED)
 find_library(CUPSIMAGE_LIBRARY cupsimage REQUIRED)
 pkg_check_modules(PLIST REQUIRED IMPORTED_TARGET libplist-2.0)
 pkg_check_modules(LCMS2 REQUIRED IMPORTED_TARGET lcms2)
+pkg_check_modules(HWY REQUIRED IMPORTED_TARGET libhwy)
 
 add_library(gdi_flags INTERFACE)
 target_include_directories(gdi_flags INTERFACE ${PROJECT_SOURCE_DIR})
