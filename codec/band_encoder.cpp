@@ -9,7 +9,7 @@
 #include "codec/band_size.h"
 #include "codec/pc4sc4.h"
 #include "codec/row_coder.h"
-#include "codec/search_chains.h"
+#include "codec/stream_word.h"
 
 namespace gdi {
 namespace pc4sc4 {
@@ -70,15 +70,6 @@ class BandOutput {
   std::uint8_t* header_ = nullptr;  // the count word of the last record
 };
 
-// The last 32-bit unit in which the rows differ, or -1.
-Position lastChangedUnit(const std::uint8_t* row, const std::uint8_t* reference, Position units) {
-  Position unit = units - 1;
-  while (unit >= 0 && sameUnit<std::uint32_t>(row + 4 * unit, reference + 4 * unit)) {
-    --unit;
-  }
-  return unit;
-}
-
 // Writes one row record at `record`, which has room for maxRecordBytes(units). Returns its bytes.
 std::size_t codeRecord(const std::uint8_t* row, const std::uint8_t* reference, std::size_t units,
                        bool firstOfBand, std::uint8_t* record) {
@@ -88,12 +79,7 @@ std::size_t codeRecord(const std::uint8_t* row, const std::uint8_t* reference, s
     storeStreamWord(at + sizeof(Word), kClearRowSkip);
     at += 2 * sizeof(Word);
   }
-  // docs/quirks.md, "The coded part of a row ends on a 32-bit boundary"
-  pCurRowEnd = 2 * lastChangedUnit(row, reference, static_cast<Position>(units)) + 1;
-  if (pCurRowEnd >= 0) {
-    buildSearchChains(row, pCurRowEnd);
-    at = cmpCompressRow(reference, row, at);
-  }
+  at = cmpCompressRow(reference, row, units, at);
   std::size_t words = static_cast<std::size_t>(at - record) / sizeof(Word) - 1;
   if (words > 0) {
     for (; words < kMinRecordWords; ++words, at += sizeof(Word)) {

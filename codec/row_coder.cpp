@@ -3,147 +3,85 @@
 
 #include "codec/row_coder.h"
 
-#include "codec/byte_alphabet.h"
-#include "codec/search_chains.h"
+#include "codec/code_writer.h"
 
-namespace gdi::pc4sc4 {
+// This file is compiled once for each kind of processor, too.
+#undef HWY_TARGET_INCLUDE
+#define HWY_TARGET_INCLUDE "codec/row_coder.cpp"
+#include <hwy/foreach_target.h>
 
-std::uint8_t* cmpBuf = nullptr;
-Position cmpAnchor = 0;
-const std::uint8_t* pCurRowHead = nullptr;
-Position pCurRowEnd = -1;
+#include "codec/MatchSearch-inl.h"
+#include "codec/changed_words-inl.h"
 
+HWY_BEFORE_NAMESPACE();
+namespace gdi::pc4sc4::HWY_NAMESPACE {
 namespace {
 
-void put(Position word) {
-  std::uint8_t* const at = cmpBuf;
-  storeStreamWord(at, static_cast<Word>(word));
-  cmpBuf = at + sizeof(Word);
-}
+ChangedWords changedWords;
+MatchSearch matchSearch;
 
-// Rows end below word 28,672, so that no skip is ever mistaken for the clear-row command's.
-void putLiteralRun(Position first, Position count) {
-  const Position skip = first - cmpAnchor;
-  const bool longCount = count > kLiteralMaxInlineCount;
-  const bool longSkip = skip >= kLiteralSkipEscape;
-  const Position countField = longCount ? kLiteralCountEscape : count - 1;
-  const Position skipField = longSkip ? kLiteralSkipEscape : skip;
-  put(kTypeLiteral | (skipField << kLiteralSkipShift) | countField);
-  if (longCount) {
-    put(count - 1);
-  }
-  if (longSkip) {
-    put(skip);
-  }
-
-  std::uint8_t* at = cmpBuf;
-  const std::uint8_t* const row = pCurRowHead;
-  for (Position p = first; p < first + count; ++p, at += sizeof(Word)) {
-    storeStreamWord(at, literalDataWord(row, p));
-  }
-  cmpBuf = at;
-  cmpAnchor = first + count;
-}
-
-// docs/quirks.md, "A long copy after a long skip is cut to 15 words"
-void putCopy(Position p, const Match& match) {
-  const Position skip = p - cmpAnchor;
-  const bool longSkip = skip > kCopyMaxInlineSkip;
-  const bool tooLong = match.length > kCopyMaxInlineCount;
-  const Position length = tooLong && longSkip ? kCopyMaxInlineCount : match.length;
-  const bool longCount = length > kCopyMaxInlineCount;
-  const Position countField = longCount ? kCopyCountEscape : length - 1;
-  const Position skipField = longSkip ? kCopySkipEscape : skip;
-  put(kTypeCopy | (countField << kCopyCountShift) | (skipField << kCopySkipShift) |
-      (p - match.source - 1));
-  if (longCount) {
-    put(length - 1);
-  }
-  if (longSkip) {
-    put(skip);
-  }
-  cmpAnchor = p + length;
-}
-
-}  // namespace
-
-// docs/quirks.md, "Pair literals stop at the first word outside the alphabet"
-void cmpEncodeLiteral(Position first, Position last) {
-  Position skip = first - cmpAnchor;
-  if (skip <= kPairMaxSkip) {
-    for (; first <= last; ++first, skip = 0) {
-      const std::uint16_t firstId = MapLiteralToId[pCurRowHead[2 * first]];
-      const std::uint16_t secondId = MapLiteralToId[pCurRowHead[2 * first + 1]];
-      if (firstId == kNotInAlphabet || secondId == kNotInAlphabet) {
-        break;
-      }
-      put(kTypePairLiteral | (skip << kPairSkipShift) | (firstId << kPairFirstShift) | secondId);
-      cmpAnchor = first + 1;
-    }
-    if (first > last) {
-      return;
-    }
-  }
-  // A literal run never has both extension words.
-  if (skip >= kLiteralSkipEscape && last - first >= kLiteralMaxInlineCount) {
-    putLiteralRun(first, kLiteralMaxInlineCount);
-    first += kLiteralMaxInlineCount;
-  }
-  putLiteralRun(first, last - first + 1);
-}
-
-void cmpEncodeSegment(Position first, Position last) {
+// Codes the changed words `first` to `last` as copies and literals; the last copy may run on past
+// `last`, up to the last word that is coded at all.
+void cmpEncodeSegment(CodeWriter& writer, Position first, Position last) {
   bool pairable = false;     // the code word just written is a one-word copy with no skip
   Position pairSource = 0;   // its source
   Position pending = first;  // the first word not coded yet
   Position p = first;
   while (p <= last) {
-    const Match match = findMatch(pCurRowHead, p, pCurRowEnd);
+    const Match match = matchSearch.find(p);
     if (match.length == 0) {
       pairable = false;
       ++p;
       continue;
     }
     if (pending < p) {
-      cmpEncodeLiteral(pending, p - 1);
+      writer.cmpEncodeLiteral(pending, p - 1);
     }
     if (match.length == 1 && pairable) {
-      const Position firstDistance = p - 1 - pairSource;
-      const Position secondDistance = p - match.source;
-      cmpBuf -= sizeof(Word);
-      put(kTypeDoubleCopy | ((firstDistance - 1) << kDoubleCopyFirstShift) | (secondDistance - 1));
-      cmpAnchor = p + 1;
+      writer.pairWithCopy(p - 1 - pairSource, p - match.source);
       pairable = false;
     } else {
-      pairable = match.length == 1 && p == cmpAnchor;
+      pairable = match.length == 1 && p == writer.anchor();
       pairSource = match.source;
-      putCopy(p, match);
+      writer.putCopy(p, match);
     }
-    pending = p = cmpAnchor;
+    pending = p = writer.anchor();
   }
   if (pending <= last) {
-    cmpEncodeLiteral(pending, last);
+    writer.cmpEncodeLiteral(pending, last);
   }
 }
 
-std::uint8_t* cmpCompressRow(const std::uint8_t* reference, const std::uint8_t* row,
-                             std::uint8_t* output) {
-  cmpBuf = output;
-  cmpAnchor = 0;
-  pCurRowHead = row;
-  const Position end = pCurRowEnd;
-  for (Position p = 0; p <= end; p = cmpAnchor) {
-    p += equalWords(row + 2 * p, reference + 2 * p, end - p + 1);
-    if (p > end) {
-      break;
-    }
-    const Position first = p;
-    while (p <= end && loadPixelWord(row, p) != loadPixelWord(reference, p)) {
-      ++p;
-    }
-    cmpEncodeSegment(first, p - 1);
+std::uint8_t* compressRow(const std::uint8_t* reference, const std::uint8_t* row, std::size_t units,
+                          std::uint8_t* output) {
+  if (!changedWords.compare(row, reference, static_cast<Position>(2 * units))) {
+    return output;
   }
-  return cmpBuf;
+  // docs/quirks.md, "The coded part of a row ends on a 32-bit boundary"
+  const Position pCurRowEnd = changedWords.last() | 1;
+  matchSearch.begin(row, pCurRowEnd);
+  CodeWriter writer(row, output);
+  Position first = changedWords.nextChanged(0);
+  while (first <= pCurRowEnd) {
+    cmpEncodeSegment(writer, first, changedWords.nextEqual(first) - 1);
+    first = changedWords.nextChanged(writer.anchor());
+  }
+  return writer.output();
+}
+
+}  // namespace
+}  // namespace gdi::pc4sc4::HWY_NAMESPACE
+HWY_AFTER_NAMESPACE();
+
+#if HWY_ONCE
+namespace gdi::pc4sc4 {
+
+HWY_EXPORT(compressRow);
+
+std::uint8_t* cmpCompressRow(const std::uint8_t* reference, const std::uint8_t* row,
+                             std::size_t units, std::uint8_t* output) {
+  return HWY_DYNAMIC_DISPATCH(compressRow)(reference, row, units, output);
 }
 
 }  // namespace gdi::pc4sc4
+#endif

@@ -36,28 +36,6 @@ inline Word literalDataWord(const std::uint8_t* row, Position p) {
   return static_cast<Word>((row[2 * p] << 8) | row[2 * p + 1]);
 }
 
-// Whether `sizeof(Unit)` bytes at `a` and at `b` are the same.
-template <typename Unit>
-bool sameUnit(const std::uint8_t* a, const std::uint8_t* b) {
-  Unit left{};
-  Unit right{};
-  std::memcpy(&left, a, sizeof left);
-  std::memcpy(&right, b, sizeof right);
-  return left == right;
-}
-
-// How many of the `limit` pixel words at `a` and at `b` agree before the first that does not.
-inline Position equalWords(const std::uint8_t* a, const std::uint8_t* b, Position limit) {
-  Position count = 0;
-  while (count + 4 <= limit && sameUnit<std::uint64_t>(a + 2 * count, b + 2 * count)) {
-    count += 4;
-  }
-  while (count < limit && sameUnit<Word>(a + 2 * count, b + 2 * count)) {
-    ++count;
-  }
-  return count;
-}
-
 // The bytes between the starts of two bitmap rows: `rowBytes` rounded up to a multiple of 4.
 inline std::size_t rowStride(std::uint32_t rowBytes) {
   return (static_cast<std::size_t>(rowBytes) + 3) / 4 * 4;

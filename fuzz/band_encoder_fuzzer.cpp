@@ -3,8 +3,9 @@
 
 // Any bitmap, encoded: the band keeps every rule, decodes to the bitmap by either decoder, stays
 // within the bound, and is the same a second time and from the plain encoder. The first two bytes
-// are the 128-bit units of a row less one and whether the band is a page's last. Rows are of up to
-// 2048 bytes, so that a literal run can be long and have a long skip.
+// are the 128-bit units of a row less one, and whether the band is a page's last together with the
+// instructions to encode with. Rows are of up to 2048 bytes, so that a literal run can be long and
+// have a long skip.
 
 #include <algorithm>
 #include <cstddef>
@@ -18,6 +19,7 @@
 #include "reader/band_data.h"
 #include "tests/codec/plain_encoder.h"
 #include "tests/reader/band_twin.h"
+#include "tests/support/instruction_sets.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   const std::size_t header = 2;
@@ -26,6 +28,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   }
   const std::uint32_t rowBytes = 16 * (data[0] % 128 + 1U);
   const bool last = data[1] % 2 != 0;
+  static const auto kInstructionSets = gdi::test::instructionSets();
+  const gdi::test::WithInstructions only(kInstructionSets[data[1] / 2 % kInstructionSets.size()]);
   const auto rows =
       std::clamp<std::uint32_t>(static_cast<std::uint32_t>((size - header) / rowBytes), 1, 256);
   std::vector<std::uint8_t> bitmap(std::size_t{rows} * rowBytes);

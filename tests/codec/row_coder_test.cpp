@@ -7,7 +7,7 @@
 
 #include <gtest/gtest.h>
 
-#include "codec/search_chains.h"
+#include "codec/code_writer.h"
 #include "tests/codec/band.h"
 
 namespace gdi::codectest {
@@ -48,38 +48,33 @@ TEST(RowCoder, TheWordBehindACopyMayBeUnchanged) {
             (Words{0xC901, 0x0100, C}));
 }
 
-TEST(RowCoder, ReturnsTheOutputPositionAndLeavesTheAnchorBehindTheLastCode) {
+TEST(RowCoder, ReturnsTheOutputPosition) {
   const std::array<std::uint8_t, 8> reference{};
   const std::array<std::uint8_t, 8> row{0, 0, 0x12, 0x34, 0, 0, 0, 0};
-  std::array<std::uint8_t, 8> output{};
-  pc4sc4::pCurRowEnd = 1;
-  pc4sc4::buildSearchChains(row.data(), 1);
-  std::uint8_t* const end = pc4sc4::cmpCompressRow(reference.data(), row.data(), output.data());
-  EXPECT_EQ(end, output.data() + 4);
-  EXPECT_EQ(pc4sc4::cmpBuf, end);
-  EXPECT_EQ(pc4sc4::cmpAnchor, 2);
-  EXPECT_EQ(pc4sc4::pCurRowHead, row.data());
-  EXPECT_EQ(output, (std::array<std::uint8_t, 8>{0x00, 0x01, 0x34, 0x12}));
+  std::array<std::uint8_t, 12> output{};
+  EXPECT_EQ(pc4sc4::cmpCompressRow(reference.data(), row.data(), 2, output.data()),
+            output.data() + 4);
+  EXPECT_EQ(output, (std::array<std::uint8_t, 12>{0x00, 0x01, 0x34, 0x12}));
 }
 
 TEST(RowCoder, WithoutAnyChangedWordNothingIsWritten) {
   const std::array<std::uint8_t, 4> row{1, 2, 3, 4};
   std::array<std::uint8_t, 2> output{0xEE, 0xEE};
-  pc4sc4::pCurRowEnd = -1;
-  EXPECT_EQ(pc4sc4::cmpCompressRow(row.data(), row.data(), output.data()), output.data());
+  EXPECT_EQ(pc4sc4::cmpCompressRow(row.data(), row.data(), 1, output.data()), output.data());
   EXPECT_EQ(output[0], 0xEE);
 }
 
-TEST(SearchChains, EachChainListsItsPositionsInAscendingOrder) {
-  const std::array<std::uint8_t, 12> row{1, 4, 2, 3, 9, 9, 5, 0, 1, 1, 0, 5};
-  pc4sc4::buildSearchChains(row.data(), 5);
-  const pc4sc4::SearchNode* node = pc4sc4::pSearchHead[5];
-  for (const pc4sc4::Position position : {0, 1, 3, 5}) {
-    EXPECT_EQ(node->position, position);
-    node = node->next;
-  }
-  EXPECT_EQ(pc4sc4::pSearchHead[18]->position, 2);
-  EXPECT_EQ(pc4sc4::searchIdx[0].position, 5);
+TEST(CodeWriter, SkipsCountFromTheEndOfTheLastCode) {
+  const std::array<std::uint8_t, 8> row{0, 0, 0x12, 0x34, 0, 0, 0x56, 0x78};
+  std::array<std::uint8_t, 16> output{};
+  pc4sc4::CodeWriter writer(row.data(), output.data());
+  EXPECT_EQ(writer.anchor(), 0);
+  writer.cmpEncodeLiteral(1, 1);
+  EXPECT_EQ(writer.anchor(), 2);
+  writer.cmpEncodeLiteral(3, 3);
+  EXPECT_EQ(writer.anchor(), 4);
+  EXPECT_EQ(writer.output(), output.data() + 8);
+  EXPECT_EQ(output, (std::array<std::uint8_t, 16>{0x00, 0x01, 0x34, 0x12, 0x00, 0x01, 0x78, 0x56}));
 }
 
 }  // namespace
