@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <cstring>
 #include <limits>
 #include <utility>
 
@@ -66,15 +67,21 @@ RasterBandBuffer::RasterBandBuffer(int pixelHeight, int rowBytes, int bandHeight
       bandHeight_(bandHeight),
       memory_(static_cast<std::uint8_t*>(mapFile_->memory())),
       totalBands_(totalBands),
-      fileSize_(pixelHeight * rowBytes) {
+      fileSize_(pixelHeight * rowBytes),
+      inkedBands_(static_cast<std::size_t>(totalBands)) {
 }
 
-std::uint8_t* RasterBandBuffer::rasterLine(int line) const {
-  const std::int64_t row = flipped_ ? std::int64_t{pixelHeight_} - 1 - line : line;
+std::int64_t RasterBandBuffer::rowOfLine(int line) const {
+  return flipped_ ? std::int64_t{pixelHeight_} - 1 - line : line;
+}
+
+std::uint8_t* RasterBandBuffer::rasterLine(int line) {
+  const std::int64_t row = rowOfLine(line);
   const std::int64_t offset = row * rowBytes_;
   if (offset < 0 || offset >= fileSize_) {
     endOnBadLine(line, offset);
   }
+  inkedBands_[static_cast<std::size_t>(row / bandHeight_)] = true;
   return memory_ + offset;
 }
 
@@ -110,6 +117,17 @@ void RasterBandBuffer::approveRasterLine(int line) {
     return;
   }
   ++rasterCount_;
+}
+
+void RasterBandBuffer::approveBlankLine(int line) {
+  if (!mapFile_->startedEmpty()) {
+    std::memset(rasterLine(line), 0, static_cast<std::size_t>(rowBytes_));
+  }
+  approveRasterLine(line);
+}
+
+bool RasterBandBuffer::bandIsBlank(int index) const {
+  return !inkedBands_[static_cast<std::size_t>(index)];
 }
 
 const std::uint8_t* RasterBandBuffer::band(int index) const {

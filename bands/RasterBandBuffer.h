@@ -10,6 +10,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <vector>
 
 #include "bands/mmapFile.h"
 
@@ -25,15 +26,23 @@ class RasterBandBuffer {
 
   // Where line `line` (0 to pixelHeight - 1) is to be written, rowBytes bytes; belongs to the
   // buffer. Any other line is logged and ends the process with exit status 1.
-  [[nodiscard]] std::uint8_t* rasterLine(int line) const;
+  [[nodiscard]] std::uint8_t* rasterLine(int line);
 
   // Declares line `line` written. Lines are approved in the order 0, 1, 2, ...; any other line is
   // reported as an assertion and ignored.
   void approveRasterLine(int line);
 
+  // As approveRasterLine, for a line that was never asked for with rasterLine: its row is all
+  // zeros. In a new file that takes no memory.
+  void approveBlankLine(int line);
+
   // The first row of band `index`; null when there is no such band or a line of it is not yet
   // approved. Belongs to the buffer.
   [[nodiscard]] const std::uint8_t* band(int index) const;
+
+  // Whether band `index` (0 to totalBands() - 1; not checked) has only blank lines so far, so that
+  // its rows need not be looked at, which would take memory for them.
+  [[nodiscard]] bool bandIsBlank(int index) const;
 
   // Rows in band `index` (0 to totalBands() - 1; not checked).
   [[nodiscard]] int bandHeightForIndex(int index) const;
@@ -49,6 +58,7 @@ class RasterBandBuffer {
  private:
   RasterBandBuffer(int pixelHeight, int rowBytes, int bandHeight, int totalBands,
                    std::unique_ptr<mmapFile> mapFile);
+  [[nodiscard]] std::int64_t rowOfLine(int line) const;
   [[noreturn]] void endOnBadLine(int line, std::int64_t offset) const;
 
   std::unique_ptr<mmapFile> mapFile_;
@@ -61,6 +71,7 @@ class RasterBandBuffer {
   int fileSize_;
   int rasterCount_ = 0;  // lines approved; flipped: pixelHeight less the lines approved
   bool flipped_ = false;
+  std::vector<bool> inkedBands_;  // those of which a row was handed out to be written
 };
 
 }  // namespace gdi

@@ -34,6 +34,8 @@ class mmapFile {
   [[nodiscard]] void* memory() const { return memory_; }
   // Bytes mapped; 0 when not mapped.
   [[nodiscard]] std::uint32_t size() const { return size_; }
+  // Whether the file was empty when it was opened, so that what nobody has written reads as zeros.
+  [[nodiscard]] bool startedEmpty() const { return startedEmpty_; }
   // The path last opened, kept through close(); empty when it was too long to be kept whole.
   [[nodiscard]] const char* path() const { return path_.data(); }
 
@@ -49,6 +51,7 @@ class mmapFile {
   std::array<char, 1024> path_{};
   std::uint32_t size_ = 0;
   void* memory_ = nullptr;
+  bool startedEmpty_ = false;
 };
 
 }  // namespace gdi

@@ -122,7 +122,8 @@ bool GDIFilter::allocBandBuffers() {
     return false;
   }
   compressionSize = static_cast<std::uint32_t>(size);
-  if (!compressionBuffer.allocate(compressionSize) || !seedBuffer.allocate(kSeedBufferBytes)) {
+  if (!compressionBuffer.allocate(compressionSize) || !seedBuffer.allocate(kSeedBufferBytes) ||
+      !blankBand.allocate(std::size_t{bandRows} * ditherRowBytes)) {
     (void)std::fprintf(stderr, "ERROR: no memory for bands of a page of %u x %u pixels\n",
                        cupsPageHeader.cupsWidth, cupsPageHeader.cupsHeight);
     return false;
@@ -189,6 +190,7 @@ bool GDIFilter::endPage(std::uint32_t page) {
   compressionBuffer.release();
   compressionSize = 0;
   seedBuffer.release();
+  blankBand.release();
   return result;
 }
 

@@ -68,13 +68,14 @@ class GDIFilter : public PlanarFilter {
   bool flushData();
   bool reportFailedWrite();
 
-  bool sentJobHeaders = false;        // job and host record were attempted for this job
-  int cBandIndex = 0;                 // next cyan band; below 0 while it lags behind black
-  int mBandIndex = 0;                 // next magenta band, as above
-  int yBandIndex = 0;                 // next yellow band, as above
-  int kBandIndex = 0;                 // next black band
-  ZeroedBuffer seedBuffer;            // scratch row of the band compressor
-  ZeroedBuffer compressionBuffer;     // one compressed band
+  bool sentJobHeaders = false;     // job and host record were attempted for this job
+  int cBandIndex = 0;              // next cyan band; below 0 while it lags behind black
+  int mBandIndex = 0;              // next magenta band, as above
+  int yBandIndex = 0;              // next yellow band, as above
+  int kBandIndex = 0;              // next black band
+  ZeroedBuffer seedBuffer;         // scratch row of the band compressor
+  ZeroedBuffer compressionBuffer;  // one compressed band
+  ZeroedBuffer blankBand;  // the rows of a band without ink; takes no memory, being read only
   std::uint32_t compressionSize = 0;  // bytes of compressionBuffer
   bool forceSimplex = false;          // carried, without a meaning
 };

@@ -83,7 +83,9 @@ bool GDIFilter::sendPlaneBand(Plane plane, int& bandIndex, bool lastBand) {
 // The compressed length; 0, with an assertion in the log, when the band could not be compressed.
 std::uint32_t GDIFilter::compressBand(RasterBandBuffer& buffer, int bandIndex, bool lastBand) {
   const auto rows = static_cast<std::uint32_t>(buffer.bandHeightForIndex(bandIndex));
-  const std::uint32_t length = compress(buffer.band(bandIndex), rows * ditherRowBytes, lastBand);
+  const std::uint8_t* band =
+      buffer.bandIsBlank(bandIndex) ? blankBand.data() : buffer.band(bandIndex);
+  const std::uint32_t length = compress(band, rows * ditherRowBytes, lastBand);
   if (length == 0 || length == kCompressionOverflow) {
     CPSDebugAssert_("GDIFilter sendRaster: qbx_Compress failed");
     return 0;
