@@ -8,7 +8,7 @@ find_library(CUPS_LIBRARY cups REQUIRED)
 find_library(CUPSIMAGE_LIBRARY cupsimage REQUIRED)
 pkg_check_modules(PLIST REQUIRED IMPORTED_TARGET libplist-2.0)
 pkg_check_modules(LCMS2 REQUIRED IMPORTED_TARGET lcms2)
-pkg_check_modules(HWY REQUIRED IMPORTED_TARGET libhwy)
+pkg_check_modules(HWY REQUIRED libhwy)
 
 add_library(gdi_flags INTERFACE)
 target_include_directories(gdi_flags INTERFACE ${PROJECT_SOURCE_DIR})
@@ -32,6 +32,13 @@ if(GDI_COVERAGE)
   target_compile_options(gdi_flags INTERFACE --coverage -O0)
   target_link_options(gdi_flags INTERFACE --coverage)
 endif()
+
+# Highway's headers alone: platform/processor/README.md says why.
+add_library(gdi_highway INTERFACE)
+target_include_directories(gdi_highway SYSTEM INTERFACE ${HWY_INCLUDE_DIRS})
+target_compile_definitions(gdi_highway INTERFACE
+  HWY_WANT_AVX3_DL
+  HWY_IS_DEBUG_BUILD=0)  # whose checks are in the library
 
 # gdi_headers(NAME [OPTIONS option...] [HEADERS <header>...] [DEPENDS target...]): the usual standard
 # headers and these, precompiled, for targets that are compiled with the same options.

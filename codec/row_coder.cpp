@@ -12,6 +12,7 @@
 
 #include "codec/MatchSearch-inl.h"
 #include "codec/changed_words-inl.h"
+#include "platform/processor/dispatch.h"
 
 HWY_BEFORE_NAMESPACE();
 namespace gdi::pc4sc4::HWY_NAMESPACE {
@@ -76,11 +77,11 @@ HWY_AFTER_NAMESPACE();
 #if HWY_ONCE
 namespace gdi::pc4sc4 {
 
-HWY_EXPORT(compressRow);
+constexpr auto kCompressRow = GDI_VERSIONS(compressRow);
 
 std::uint8_t* cmpCompressRow(const std::uint8_t* reference, const std::uint8_t* row,
                              std::size_t units, std::uint8_t* output) {
-  return HWY_DYNAMIC_DISPATCH(compressRow)(reference, row, units, output);
+  return version(kCompressRow)(reference, row, units, output);
 }
 
 }  // namespace gdi::pc4sc4

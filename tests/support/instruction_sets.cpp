@@ -3,32 +3,24 @@
 
 #include "tests/support/instruction_sets.h"
 
-#include <hwy/highway.h>
+#include "platform/processor/instruction_sets.h"
 
 namespace gdi::test {
-namespace {
-
-void leaveTargets(std::int64_t targets) {
-  hwy::SetSupportedTargetsForTest(targets);
-  hwy::GetChosenTarget().DeInit();
-}
-
-}  // namespace
 
 std::vector<InstructionSet> instructionSets() {
   std::vector<InstructionSet> sets;
-  for (const std::int64_t target : hwy::SupportedAndGeneratedTargets()) {
-    sets.push_back({target, hwy::TargetName(target)});
+  for (const std::size_t place : supportedInstructionSets()) {
+    sets.push_back({place, nameOfInstructionSet(place)});
   }
   return sets;
 }
 
 WithInstructions::WithInstructions(const InstructionSet& set) {
-  leaveTargets(set.target);
+  useInstructionSet(set.place);
 }
 
 WithInstructions::~WithInstructions() {
-  leaveTargets(0);  // as it is
+  useInstructionSet(supportedInstructionSets().front());
 }
 
 }  // namespace gdi::test

@@ -5,14 +5,14 @@
 // and the plain ones alike.
 #pragma once
 
-#include <cstdint>
+#include <cstddef>
 #include <string>
 #include <vector>
 
 namespace gdi::test {
 
 struct InstructionSet {
-  std::int64_t target;
+  std::size_t place;
   std::string name;
 };
 
