@@ -4,6 +4,7 @@
 #include "halftone/screens/screen_samples.h"
 
 #include <algorithm>
+#include <array>
 #include <bit>
 #include <cstring>
 
@@ -51,14 +52,15 @@ void screenRest(const std::uint8_t* input, std::size_t width, std::ptrdiff_t str
                 const ThresholdRow& row, Position at) {
   const std::size_t lanes = hn::Lanes(Tag());
   for (; at.x < width; at.advance(lanes, lanes % row.period, row.period, depth)) {
-    HWY_ALIGN std::uint8_t samples[ThresholdTile::kReadable] = {};
-    HWY_ALIGN std::uint8_t pixels[ThresholdTile::kReadable];
+    HWY_ALIGN std::array<std::uint8_t, ThresholdTile::kReadable> samples{};
+    HWY_ALIGN std::array<std::uint8_t, ThresholdTile::kReadable> pixels;
     const std::size_t count = std::min(lanes, width - at.x);
     for (std::size_t i = 0; i < count; ++i) {
       samples[i] = input[static_cast<std::ptrdiff_t>(at.x + i) * stride];
     }
-    screenVector<depth>(hn::Load(Tag(), samples), row, row.thresholds + at.column, pixels);
-    std::memcpy(at.output, pixels, (count * depth + 7) / 8);
+    screenVector<depth>(hn::Load(Tag(), samples.data()), row, row.thresholds + at.column,
+                        pixels.data());
+    std::memcpy(at.output, pixels.data(), (count * depth + 7) / 8);
   }
 }
 
@@ -80,7 +82,8 @@ Position screenVectors(const std::uint8_t* input, std::size_t width, const Thres
 template <int depth>
 void screenLine(const std::uint8_t* input, std::size_t width, std::ptrdiff_t stride,
                 const ThresholdRow& row, std::uint8_t* output) {
-  Position at{0, 0, output};
+  Position at;
+  at.output = output;
   if (stride == 1) {
     at = screenVectors<depth, 1>(input, width, row, at);
   } else if (stride == 4) {

@@ -12,6 +12,7 @@
 #define GDI_SCREEN_VECTOR_INL_H
 #endif
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
@@ -65,14 +66,14 @@ HWY_INLINE void screenToBits(Samples samples, const std::uint8_t* thresholds,
                              std::uint8_t* output) {
   const Tag d;
   const SignedTag ds;
-  alignas(16) static constexpr std::uint8_t kBackwards[] = {7,  6,  5,  4,  3,  2,  1, 0,
-                                                            15, 14, 13, 12, 11, 10, 9, 8};
-  const auto backwards = hn::LoadDup128(d, kBackwards);
+  alignas(16) static constexpr std::array<std::uint8_t, 16> kBackwards = {
+      7, 6, 5, 4, 3, 2, 1, 0, 15, 14, 13, 12, 11, 10, 9, 8};
+  const auto backwards = hn::LoadDup128(d, kBackwards.data());
   const auto t = hn::TableLookupBytes(hn::LoadU(d, thresholds), backwards);
   const auto s = hn::TableLookupBytes(hn::BitCast(d, flipped(samples)), backwards);
-  std::uint8_t bits[8];
-  (void)hn::StoreMaskBits(ds, hn::Gt(hn::BitCast(ds, s), hn::BitCast(ds, t)), bits);
-  std::memcpy(output, bits, hn::Lanes(d) / 8);
+  std::array<std::uint8_t, 8> bits;
+  (void)hn::StoreMaskBits(ds, hn::Gt(hn::BitCast(ds, s), hn::BitCast(ds, t)), bits.data());
+  std::memcpy(output, bits.data(), hn::Lanes(d) / 8);
 }
 
 // The even bytes, in both halves. TruncateTo would do, but some releases of Highway have it wrong.

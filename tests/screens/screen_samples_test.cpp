@@ -73,20 +73,21 @@ class WideScreening : public testing::Test {
 
   // Screens with every set of instructions. No byte behind the last sample can be read, none behind
   // the last pixel written.
-  void expectAsDefined(const RandomScreen& random, const Bytes& line, int stride, int row,
-                       int depth) {
+  static void expectAsDefined(const RandomScreen& random, const Bytes& line, int stride, int row,
+                              int depth) {
     ASSERT_NE(random.screen, nullptr);
     const Bytes expected = random.definition.row(line, row, depth);
     const GuardedBytes input((line.size() - 1) * static_cast<std::size_t>(stride) + 1);
     for (std::size_t x = 0; x < line.size(); ++x) {
       input.data()[x * static_cast<std::size_t>(stride)] = line[x];
     }
-    onEveryTarget([&] {
+    test::onEveryTarget([&](const char* target) {
       const GuardedBytes output(expected.size());
       EXPECT_TRUE(random.screen->processScanline(input.data(), static_cast<int>(line.size()),
                                                  stride, row, output.data(), depth));
       EXPECT_EQ(output.bytes(), expected)
-          << line.size() << " pixels of " << depth << " bits, stride " << stride << ", row " << row;
+          << line.size() << " pixels of " << depth << " bits, stride " << stride << ", row " << row
+          << ", " << target;
       EXPECT_TRUE(output.untouchedBefore());
     });
   }
