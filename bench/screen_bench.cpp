@@ -2,8 +2,10 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include <array>
+#include <filesystem>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include <benchmark/benchmark.h>
 
@@ -16,34 +18,113 @@ namespace {
 
 constexpr std::array kQualities{"Fast", "Standard", "Fine"};
 
-// Arguments: quality (0 to 2), channels.
-void ScreenLines(benchmark::State& state) {
-  NSBundle::setMainBundle(GDI_BUNDLE);
-  const auto channels = static_cast<int>(state.range(1));
-  const std::string key = std::string(kQualities.at(static_cast<std::size_t>(state.range(0)))) +
-                          "Plain" + (channels == 1 ? "Mono" : "Color");
-  const std::unique_ptr<Halftoner> halftoner = Halftoner::initWithScreenSetKey(key);
-  if (halftoner == nullptr) {
-    state.SkipWithError("no such screen set");
-    return;
+std::string keyOf(const benchmark::State& state, int channels) {
+  return std::string(kQualities.at(static_cast<std::size_t>(state.range(0)))) + "Plain" +
+         (channels == 1 ? "Mono" : "Color");
+}
+
+// The same screen but for one entry: level 0 of the first pixel is ink, so that it does not rise.
+std::unique_ptr<HalftoneScreen> notRising(const HalftoneScreen& screen) {
+  const ScreenHeader& header = screen.header();
+  const std::string text = "1 " + std::to_string(header.width) + " " +
+                           std::to_string(header.height) + " " + std::to_string(header.inputDepth) +
+                           " " + std::to_string(header.outputDepth);
+  std::vector<std::uint8_t> file(text.begin(), text.end());
+  file.push_back(0);
+  int bits = 0;
+  unsigned packed = 0;
+  for (const unsigned entry : screen.table()) {
+    packed = packed << header.outputDepth | entry;
+    bits += header.outputDepth;
+    if (bits % 8 == 0) {
+      file.push_back(static_cast<std::uint8_t>(packed));
+    }
   }
-  const std::vector<std::uint8_t> line = chunkyLine(Content::kPhoto, channels, 0);
+  file[text.size() + 1] |= 0x80;
+  return HalftoneScreen::loadFromData(file);
+}
+
+// The planes of one line by these screens, each with the samples of its channel.
+using Screens = std::vector<const HalftoneScreen*>;
+
+void screenLines(benchmark::State& state, const Screens& screens, int depth) {
+  const auto channels = static_cast<int>(screens.size());
+  const auto content = static_cast<Content>(state.range(1));
+  const std::vector<std::uint8_t> line = chunkyLine(content, channels, 0);
   std::array<std::vector<std::uint8_t>, kChannels> planes;
-  std::array<std::uint8_t*, kChannels> rows{};
-  for (std::size_t i = 0; i < planes.size(); ++i) {
-    planes.at(i).resize(kPixels);
-    rows.at(i) = planes.at(i).data();
-  }
+  planes.fill(std::vector<std::uint8_t>(kPixels));
   int row = 0;
   for (auto _ : state) {
-    (void)halftoner->halftoneChunkyScanlineToPlanar(line.data(), kPixels, row++, rows, channels);
+    for (std::size_t i = 0; i < screens.size(); ++i) {
+      (void)screens[i]->processScanline(&line[i], kPixels, channels, row, planes.at(i).data(),
+                                        depth);
+    }
+    ++row;
     benchmark::ClobberMemory();
   }
-  state.SetLabel(key);
+  state.SetLabel(std::string(nameOf(content)) + " at " + std::to_string(depth) + " bits");
   state.SetBytesProcessed(static_cast<std::int64_t>(state.iterations()) *
                           static_cast<std::int64_t>(line.size()));
 }
-BENCHMARK(ScreenLines)->ArgsProduct({{0, 1, 2}, {1, 4}});
+
+// Arguments: quality (0 to 2), content, channels (1 or 4).
+void ScreenByThresholds(benchmark::State& state) {
+  NSBundle::setMainBundle(GDI_BUNDLE);
+  const auto channels = static_cast<int>(state.range(2));
+  const std::unique_ptr<Halftoner> set = Halftoner::initWithScreenSetKey(keyOf(state, channels));
+  if (set == nullptr) {
+    state.SkipWithError("no such screen set");
+    return;
+  }
+  const auto screens = set->screens().last(static_cast<std::size_t>(channels));
+  screenLines(state, Screens(screens.begin(), screens.end()), set->outputDepth());
+}
+BENCHMARK(ScreenByThresholds)
+    ->ArgNames({"quality", "content", "channels"})
+    ->ArgsProduct({{0, 1, 2}, {0, 1, 2, 3, 4}, {1, 4}});
+
+void ScreenByTable(benchmark::State& state) {
+  NSBundle::setMainBundle(GDI_BUNDLE);
+  const auto channels = static_cast<int>(state.range(2));
+  const std::unique_ptr<Halftoner> set = Halftoner::initWithScreenSetKey(keyOf(state, channels));
+  if (set == nullptr) {
+    state.SkipWithError("no such screen set");
+    return;
+  }
+  std::vector<std::unique_ptr<HalftoneScreen>> owned;
+  Screens screens;
+  for (const HalftoneScreen* screen : set->screens().last(static_cast<std::size_t>(channels))) {
+    owned.push_back(notRising(*screen));
+    screens.push_back(owned.back().get());
+  }
+  screenLines(state, screens, set->outputDepth());
+}
+BENCHMARK(ScreenByTable)
+    ->ArgNames({"quality", "content", "channels"})
+    ->ArgsProduct({{0, 1, 2}, {0, 3}, {1, 4}});
+
+// Four screens from their files, without the list that names them. Argument: quality (0 to 2).
+void LoadScreens(benchmark::State& state) {
+  NSBundle::setMainBundle(GDI_BUNDLE);
+  const std::string quality = kQualities.at(static_cast<std::size_t>(state.range(0)));
+  std::vector<std::filesystem::path> paths;
+  for (const char* plane : {"cyan", "magenta", "yellow", "black"}) {
+    const auto path =
+        NSBundle::mainBundle().pathForResource("plain-" + quality + "-" + plane, "", "Screens");
+    if (!path) {
+      state.SkipWithError("no such screen");
+      return;
+    }
+    paths.push_back(*path);
+  }
+  for (auto _ : state) {
+    for (const std::filesystem::path& path : paths) {
+      benchmark::DoNotOptimize(HalftoneScreen::initWithFile(path));
+    }
+  }
+  state.SetLabel(quality);
+}
+BENCHMARK(LoadScreens)->ArgName("quality")->DenseRange(0, 2);
 
 }  // namespace
 }  // namespace gdi::bench

@@ -129,6 +129,7 @@ bool PlanarFilter::loadScreenSet() {
                        halftoneKey.c_str(), halftoner->outputDepth(), ditherBPP);
     return false;
   }
+  paperStaysBlank_ = halftoner->leavesPaperBlank();
   return true;
 }
 
@@ -140,6 +141,17 @@ std::int32_t PlanarFilter::systemVersion() {
   return version;
 }
 
+// Matched colours may print in any channel, but paper stays paper.
+bool PlanarFilter::lineIsBlank(std::size_t channel) const {
+  if (!paperStaysBlank_) {
+    return false;
+  }
+  if (channelCount == kColorChannels && colorWorld == nullptr) {
+    return lineInk.at(channel) == 0;
+  }
+  return lineInk == decltype(lineInk){};
+}
+
 bool PlanarFilter::sendRaster() {
   if (!RasterFilter::sendRaster()) {
     return false;
@@ -148,6 +160,9 @@ bool PlanarFilter::sendRaster() {
   bool rowsFound = true;
   for (std::size_t channel = 0; channel < channelCount; ++channel) {
     const auto& plane = rasterBand.at(channel);
+    if (plane != nullptr && lineIsBlank(channel)) {
+      continue;
+    }
     if (plane == nullptr) {
       CPSDebugAssert_("PlanarFilter sendRaster: No rasterBand for this channel");
     } else {
@@ -167,7 +182,12 @@ bool PlanarFilter::sendRaster() {
     return false;
   }
   for (std::size_t channel = 0; channel < channelCount; ++channel) {
-    rasterBand.at(channel)->approveRasterLine(static_cast<int>(rasterLineNumber));
+    const auto line = static_cast<int>(rasterLineNumber);
+    if (rows.at(channel) != nullptr) {
+      rasterBand.at(channel)->approveRasterLine(line);
+    } else {
+      rasterBand.at(channel)->approveBlankLine(line);
+    }
   }
   return true;
 }

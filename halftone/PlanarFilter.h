@@ -60,6 +60,8 @@ class PlanarFilter : public RasterFilter {
   bool makePlane(std::size_t channel);
   bool chooseScreenSet();
   bool loadScreenSet();
+  // Whether the current line prints nothing in that channel, so that its row may stay as it is.
+  [[nodiscard]] bool lineIsBlank(std::size_t channel) const;
   // Sets up colour matching where the bundle asks for it. Always true: matching is an improvement,
   // never a condition.
   bool startColorSync();
@@ -73,6 +75,7 @@ class PlanarFilter : public RasterFilter {
   void warnUnmatched(const std::string& what, CMError error, const char* why = nullptr);
   void deletePlanes();
 
+  bool paperStaysBlank_ = false;   // of the page's screens: see Halftoner::leavesPaperBlank
   bool matchingExpected_ = false;  // the bundle states a system before 10.3, not merely none
   bool unmatchedTold_ = false;
 };

@@ -124,11 +124,15 @@ bool RasterFilter::startPage(std::uint32_t page) {
       NSBundle::mainBundle().localizedStringForKey("PageProgress", "Processing page %d");
   (void)std::fprintf(stderr, "INFO: %s\n", progressText(format, page + 1).c_str());
   blankAccumulator = 0;
+  lineInk = {};
   return true;
 }
 
 bool RasterFilter::sendRaster() {
-  blankAccumulator = static_cast<std::uint8_t>(blankAccumulator | inkOf(rasterLine()));
+  lineInk = inkOf(rasterLine());
+  for (const std::uint8_t ink : lineInk) {
+    blankAccumulator = static_cast<std::uint8_t>(blankAccumulator | ink);
+  }
   return true;
 }
 

@@ -8,6 +8,7 @@
 // line and after every page.
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <memory>
 #include <span>
@@ -56,7 +57,11 @@ class RasterFilter : public CUPSFilter {
   std::uint32_t rasterLineNumber = 0;        // line in the buffer, 0 for the first
   bool mirror = false;                       // reverse each line; set by the printer's stage
   std::uint8_t blankAccumulator = 0;         // OR of every byte sent since startPage
-  std::uint32_t pageCount = 0;               // pages ended so far, failed ones included
+  // inkOf (raster/scanline.h) of the line that sendRaster was called for last, as it was read. On a
+  // colour page element c is 0 when channel c is blank; a mono line is blank when all are 0. Zeros
+  // from startPage to the first line.
+  std::array<std::uint8_t, 4> lineInk{};
+  std::uint32_t pageCount = 0;  // pages ended so far, failed ones included
 
  private:
   bool runPages();

@@ -1,9 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The rasterToGDI authors
 // SPDX-License-Identifier: Apache-2.0
 
-// What is done to a raster line as bytes: mirroring it, and noting whether it holds any ink.
+// What is done to a raster line as bytes: mirroring it, and noting which channels hold any ink.
+// With the widest instructions that the processor has.
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <span>
 
@@ -17,7 +19,9 @@ void mirrorRaster8(std::span<std::uint8_t> line);
 // requires: line.size() is a multiple of 4
 void mirrorRaster32(std::span<std::uint8_t> line);
 
-// The OR of all bytes: 0 for a blank line.
-std::uint8_t inkOf(std::span<const std::uint8_t> line);
+// Element c is the OR of the bytes c, c + 4, c + 8 and so on of a line of any length: 0 where that
+// channel of a line of four bytes a pixel is blank. A line of one byte a pixel is blank when all
+// are 0.
+[[nodiscard]] std::array<std::uint8_t, 4> inkOf(std::span<const std::uint8_t> line);
 
 }  // namespace gdi

@@ -10,9 +10,11 @@
 #include <cstdint>
 #include <filesystem>
 #include <memory>
+#include <optional>
 #include <span>
 #include <vector>
 
+#include "halftone/screens/ThresholdTile.h"
 #include "halftone/screens/depth.h"
 #include "halftone/screens/screen_header.h"
 
@@ -41,17 +43,19 @@ class HalftoneScreen {
                        std::uint8_t* outputBuffer, int outputDepth) const;
 
   [[nodiscard]] const ScreenHeader& header() const { return header_; }
-  // The table, one entry a byte, in the order row, column, level.
-  [[nodiscard]] std::span<const std::uint8_t> table() const { return unpackedData_; }
+  // The table, one entry a byte, in the order row, column, level; unpacked at each call.
+  [[nodiscard]] std::vector<std::uint8_t> table() const;
+  // Whether a sample of 0 prints 0 in every cell, at every depth.
+  [[nodiscard]] bool leavesPaperBlank() const { return leavesPaperBlank_; }
 
  private:
   HalftoneScreen(const ScreenHeader& header, std::span<const std::uint8_t> table);
-  template <int depth>
-  void screenRow(const std::uint8_t* input, int width, int inputStride, const std::uint8_t* tileRow,
-                 std::uint8_t* output) const;
 
   ScreenHeader header_;
-  std::vector<std::uint8_t> unpackedData_;  // one entry a byte
+  std::vector<std::uint8_t> packedTable_;    // as in the file
+  std::optional<ThresholdTile> thresholds_;  // when every cell rises; otherwise
+  std::vector<std::uint8_t> walkedTable_;    // one entry a byte
+  bool leavesPaperBlank_ = true;
 };
 
 }  // namespace gdi

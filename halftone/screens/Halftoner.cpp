@@ -118,6 +118,11 @@ const HalftoneScreen* Halftoner::screenNamed(const std::string& name) {
   return screenCache_.emplace(name, std::move(screen)).first->second.get();
 }
 
+bool Halftoner::leavesPaperBlank() const {
+  return std::ranges::all_of(screenList_,
+                             [](const HalftoneScreen* s) { return s->leavesPaperBlank(); });
+}
+
 // Three of the messages have no line feed: docs/quirks.md, "Messages without a line feed".
 bool Halftoner::halftoneChunkyScanlineToPlanar(const std::uint8_t* input, int width, int row,
                                                std::span<std::uint8_t* const> outputBuffer,
@@ -137,17 +142,14 @@ bool Halftoner::halftoneChunkyScanlineToPlanar(const std::uint8_t* input, int wi
     return fail("ERROR: outputPlanes is nil");
   }
   const auto channels = static_cast<std::size_t>(outputChannels);
-  if (outputBuffer.size() < channels ||
-      std::ranges::count(outputBuffer.first(channels), nullptr) > 0) {
+  if (outputBuffer.size() < channels) {
     return fail("ERROR: outputPlanes has no row for a channel\n");
   }
-  if (outputChannels == 1) {
-    return screenList_.back()->processScanline(input, width, 1, row, outputBuffer.front(),
-                                               outputDepth_);
-  }
-  for (std::size_t plane = 0; plane < kPlanes; ++plane) {
-    if (!screenList_[plane]->processScanline(input + plane, width, outputChannels, row,
-                                             outputBuffer[plane], outputDepth_)) {
+  const std::size_t firstScreen = kPlanes - channels;  // the black one for a page in black only
+  for (std::size_t channel = 0; channel < channels; ++channel) {
+    if (outputBuffer[channel] != nullptr &&
+        !screenList_[firstScreen + channel]->processScanline(
+            input + channel, width, outputChannels, row, outputBuffer[channel], outputDepth_)) {
       return false;
     }
   }

@@ -32,6 +32,9 @@ class Halftoner {
   // Files loaded; four at most, fewer when planes share a screen.
   [[nodiscard]] std::size_t screensLoaded() const { return screenCache_.size(); }
 
+  // Whether a channel of samples 0 prints nothing, whatever the row: its rows need not be screened.
+  [[nodiscard]] bool leavesPaperBlank() const;
+
   // The screens of cyan, magenta, yellow and black; they belong to the halftoner.
   [[nodiscard]] std::span<const HalftoneScreen* const> screens() const { return screenList_; }
 
@@ -39,7 +42,7 @@ class Halftoner {
   //   input           `width` pixels (at least 1) of outputChannels bytes, channels interleaved
   //   row             the page's scanline number, from 0
   //   outputBuffer    one row for each channel, each of at least ceil(width x outputDepth() / 8)
-  //                   bytes; the caller keeps them
+  //                   bytes, or null for a channel that is left out; the caller keeps them
   //   outputChannels  4, or 1 for a page in black only, which takes the fourth screen
   // False, with a message and nothing written, for any other arguments.
   bool halftoneChunkyScanlineToPlanar(const std::uint8_t* input, int width, int row,

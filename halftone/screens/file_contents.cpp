@@ -3,8 +3,10 @@
 
 #include "halftone/screens/file_contents.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <memory>
+#include <system_error>
 
 namespace gdi {
 
@@ -15,15 +17,18 @@ std::optional<std::vector<std::uint8_t>> contentsOfFile(const std::filesystem::p
   if (file == nullptr) {
     return std::nullopt;
   }
-  constexpr std::size_t chunk = 65536;
+  // At first one byte more than the file is said to have, so that its end shows at once.
+  constexpr std::uintmax_t kMostAtOnce = 1U << 24;
+  std::error_code unknown;
+  const std::uintmax_t said = std::filesystem::file_size(path, unknown);
+  std::size_t chunk = unknown ? 1 : static_cast<std::size_t>(std::min(said, kMostAtOnce)) + 1;
   std::vector<std::uint8_t> bytes;
   std::size_t length = 0;
-  std::size_t got = 0;
   do {
     bytes.resize(length + chunk);
-    got = std::fread(&bytes[length], 1, chunk, file.get());
-    length += got;
-  } while (got > 0);
+    length += std::fread(&bytes[length], 1, chunk, file.get());
+    chunk = 65536;
+  } while (length == bytes.size());
   if (std::ferror(file.get()) != 0) {
     return std::nullopt;
   }

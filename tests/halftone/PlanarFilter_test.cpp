@@ -222,6 +222,36 @@ TEST_F(PlanarFilterTest, AScreenedLineIsApproved) {
   }
 }
 
+TEST_F(PlanarFilterTest, AChannelWithoutInkIsNotWrittenToItsPlane) {
+  ASSERT_TRUE(filter_->begin(test::pageHeader(2, 2, 4)));
+  ASSERT_TRUE(filter_->sendLine(0, {0, 0, 0, 0, 0, 255, 0, 0}));
+  ASSERT_TRUE(filter_->sendLine(1, Bytes(8)));
+  EXPECT_TRUE(filter_->rasterBand[0]->bandIsBlank(0));
+  EXPECT_FALSE(filter_->rasterBand[1]->bandIsBlank(0));
+  EXPECT_EQ(filter_->planeRow(1, 0).front(), 0b01000000);
+  EXPECT_EQ(filter_->planeRow(1, 1), Bytes(16));
+}
+
+TEST_F(PlanarFilterTest, AMonoLineWithInkAnywhereIsWritten) {
+  for (std::size_t x = 0; x < 8; ++x) {
+    ASSERT_TRUE(filter_->begin(test::pageHeader(8, 2, 1)));
+    Bytes line(8);
+    line[x] = 255;
+    ASSERT_TRUE(filter_->sendLine(0, Bytes(8)));
+    EXPECT_TRUE(filter_->rasterBand[0]->bandIsBlank(0));
+    ASSERT_TRUE(filter_->sendLine(1, line));
+    EXPECT_EQ(filter_->planeRow(0, 1).front(), 0x80 >> x);
+    ASSERT_TRUE(filter_->endPage(0));
+  }
+}
+
+TEST_F(PlanarFilterTest, AScreenThatPrintsOnPaperPrintsOnBlankLines) {
+  ASSERT_TRUE(filter_->begin(test::pageHeader(16, 1, 1), {{"PaperType", "Negative"}}));
+  ASSERT_TRUE(filter_->sendLine(0, Bytes(16)));
+  EXPECT_FALSE(filter_->rasterBand[0]->bandIsBlank(0));
+  EXPECT_EQ(filter_->planeRow(0, 0)[1], 0xFF);
+}
+
 TEST_F(PlanarFilterTest, ALineThatCannotBeScreenedIsNotApprovedAndFails) {
   ASSERT_TRUE(filter_->begin(test::pageHeader(0, 1, 1)));
   testing::internal::CaptureStderr();

@@ -25,6 +25,7 @@ std::string screenSets() {
       sets += screenSet(std::string("Fine") + paper + mode, 4, "cyan, magenta, yellow, black");
     }
   }
+  sets += screenSet("FastNegativeMono", 1, "one, one, one, negative");
   return sets + screenSet("FastLabelsMono", 2, "two, two, two, two");
 }
 
@@ -40,6 +41,7 @@ ScreenBundle::ScreenBundle(const TestBundle::Texts& information, const std::stri
   folder.write("ScreenSets.plist", "{ ScreenSets = {\n" + screenSets() + "}; }\n");
   // Version, width, height, input depth, output depth; the table's entries from the high bits on.
   folder.write("Screens/one", "1 1 1 1 1\0\x40"sv);
+  folder.write("Screens/negative", "1 1 1 1 1\0\x80"sv);
   folder.write("Screens/two", "1 1 1 1 2\0\x30"sv);
   folder.write("Screens/cyan", "1 1 1 2 4\0\x01\x23"sv);
   folder.write("Screens/magenta", "1 1 1 2 4\0\x04\x56"sv);

@@ -51,6 +51,7 @@ class RecordingFilter : public RasterFilter {
   using RasterFilter::cupsPageHeader;
   using RasterFilter::cupsRaster;
   using RasterFilter::deallocRasterBuffer;
+  using RasterFilter::lineInk;
   using RasterFilter::mirror;
   using RasterFilter::pageCount;
   using RasterFilter::rasterBuffer;

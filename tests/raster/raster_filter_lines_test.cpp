@@ -3,6 +3,8 @@
 
 // Lines on their way from the stream to the stages: padding, mirroring and the note of ink.
 
+#include <array>
+#include <string>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -139,6 +141,18 @@ TEST(LineBuffer, BeginsAsZerosAndIsFreedOnce) {
   filter.deallocRasterBuffer();
   EXPECT_EQ(filter.rasterBuffer.data(), nullptr);
   filter.deallocRasterBuffer();
+}
+
+TEST_F(RasterLines, TheInkOfALineIsNotedByChannel) {
+  std::vector<std::array<std::uint8_t, 4>> inks;
+  filter_.during = [&](const std::string& call) {
+    if (call.starts_with("startPage") || call.starts_with("sendRaster")) {
+      inks.push_back(filter_.lineInk);
+    }
+  };
+  sent(pageOf(2, 4, {{0, 1, 0, 3, 0, 4, 0, 8}, {0, 0, 0, 0, 0, 0, 0x10, 0}}));
+  EXPECT_EQ(inks, (std::vector<std::array<std::uint8_t, 4>>{
+                      {0, 0, 0, 0}, {0, 5, 0, 11}, {0, 0, 0x10, 0}}));
 }
 
 }  // namespace

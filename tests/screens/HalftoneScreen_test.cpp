@@ -15,6 +15,7 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/screens/PixelByPixel.h"
 #include "tests/screens/screen_bytes.h"
 
 namespace gdi {
@@ -137,52 +138,25 @@ TEST(Screening, ANegativeRowStaysWithinTheTile) {
   EXPECT_EQ(screened(*screen, {0}, std::numeric_limits<int>::min(), 1), Bytes{0});  // row 1
 }
 
-// The screening of one pixel at a time, straight from the packed table.
-class PixelByPixel {
- public:
-  PixelByPixel(int width, int height, int inputDepth, int outputDepth, Bytes table)
-      : width_(width),
-        height_(height),
-        inputDepth_(inputDepth),
-        outputDepth_(outputDepth),
-        table_(std::move(table)) {}
+TEST(ScreenTable, IsTheEntriesInTheOrderOfTheFile) {
+  const auto rising = screenOf("1 2 1 1 2", {0x1B});
+  ASSERT_NE(rising, nullptr);
+  EXPECT_EQ(rising->table(), (Bytes{0, 1, 2, 3}));
+  const auto falling = screenOf("1 3 1 1 1", {0xB7});
+  ASSERT_NE(falling, nullptr);
+  EXPECT_EQ(falling->table(), (Bytes{1, 0, 1, 1, 0, 1}));
+}
 
-  [[nodiscard]] unsigned pixel(int x, int row, std::uint8_t sample, int depth) const {
-    const int level = sample / (256 >> inputDepth_);
-    const int entry = ((row % height_) * width_ + x % width_) * (1 << inputDepth_) + level;
-    unsigned value = 0;
-    for (int bit = entry * outputDepth_; bit < (entry + 1) * outputDepth_; ++bit) {
-      const unsigned byte = table_.at(static_cast<std::size_t>(bit / 8));
-      value = value * 2 + ((byte >> (7 - bit % 8)) & 1U);
-    }
-    return depth < outputDepth_ ? value >> (outputDepth_ - depth) : value;
-  }
-
-  [[nodiscard]] Bytes row(const Bytes& input, int row, int depth) const {
-    Bytes output((input.size() * static_cast<std::size_t>(depth) + 7) / 8);
-    for (std::size_t x = 0; x < input.size(); ++x) {
-      const unsigned value = pixel(static_cast<int>(x), row, input[x], depth);
-      const std::size_t bit = x * static_cast<std::size_t>(depth);
-      output[bit / 8] |=
-          static_cast<std::uint8_t>(value << (8U - static_cast<unsigned>(depth) - bit % 8));
-    }
-    return output;
-  }
-
- private:
-  int width_;
-  int height_;
-  int inputDepth_;
-  int outputDepth_;
-  Bytes table_;
-};
-
-Bytes randomBytes(std::mt19937& random, std::size_t count) {
-  Bytes bytes(count);
-  for (std::uint8_t& byte : bytes) {
-    byte = static_cast<std::uint8_t>(random());
-  }
-  return bytes;
+TEST(BlankPaper, IsLeftBlankWhenLevel0GivesNothingInEveryCell) {
+  const auto leavesBlank = [](std::string_view header, const Bytes& table) {
+    const auto screen = screenOf(header, table);
+    return screen != nullptr && screen->leavesPaperBlank();
+  };
+  EXPECT_TRUE(leavesBlank("1 2 1 1 1", {0x50}));
+  EXPECT_TRUE(leavesBlank("1 1 1 2 2", {0x39}));  // 0, 3, 2, 1: does not rise
+  EXPECT_FALSE(leavesBlank("1 2 1 1 1", {0x60}));
+  EXPECT_TRUE(leavesBlank("1 2 1 1 8", {0, 255, 0, 1}));
+  EXPECT_FALSE(leavesBlank("1 2 1 1 8", {0, 255, 1, 1}));
 }
 
 class ScreeningAtDepths : public testing::TestWithParam<std::tuple<int, int, int>> {};

@@ -109,11 +109,25 @@ TEST_F(HalftonedScanline, NoOutputArrayIsRefused) {
   expectRefused(input_.data(), 1, {}, 4, "ERROR: outputPlanes is nil");
 }
 
-TEST_F(HalftonedScanline, AMissingRowIsRefused) {
-  constexpr std::string_view message = "ERROR: outputPlanes has no row for a channel\n";
-  expectRefused(input_.data(), 1, std::span<std::uint8_t* const>(rows_).first(3), 4, message);
+TEST_F(HalftonedScanline, FewerRowsThanChannelsAreRefused) {
+  expectRefused(input_.data(), 1, std::span<std::uint8_t* const>(rows_).first(3), 4,
+                "ERROR: outputPlanes has no row for a channel\n");
+}
+
+TEST_F(HalftonedScanline, AChannelWithoutARowIsLeftOut) {
+  setTestSet(depth(1) + screens({"ones", "ones", "ones", "ones"}));
+  const auto halftoner = Halftoner::initWithScreenSetKey("TestSet");
+  ASSERT_NE(halftoner, nullptr);
   rows_[2] = nullptr;
-  expectRefused(input_.data(), 1, rows_, 4, message);
+  EXPECT_TRUE(halftoner->halftoneChunkyScanlineToPlanar(input_.data(), 1, 0, rows_, 4));
+  EXPECT_EQ(planes_, (Bytes{0x80, 0x80, 0xA5, 0x80}));
+}
+
+TEST_F(HalftonedScanline, PaperStaysBlankUnlessAScreenPrintsOnIt) {
+  setTestSet(depth(1) + screens({"zeros", "ident", "zeros", "ident"}));
+  EXPECT_TRUE(Halftoner::initWithScreenSetKey("TestSet")->leavesPaperBlank());
+  setTestSet(depth(1) + screens({"zeros", "ident", "invert", "ident"}));
+  EXPECT_FALSE(Halftoner::initWithScreenSetKey("TestSet")->leavesPaperBlank());
 }
 
 }  // namespace

@@ -29,10 +29,11 @@ Screen bundled(const Parameters& parameters, std::size_t plane) {
   if (read == nullptr) {
     return {};
   }
+  const std::vector<std::uint8_t> table = read->table();
   Screen screen{{read->header().width, read->header().height}, 1, {}};
   for (std::size_t level = 0; level < screenquality::kLevels; ++level) {
     for (std::size_t pixel = 0; pixel < screen.tile.size(); ++pixel) {
-      screen.outputs.push_back(read->table()[pixel * screenquality::kLevels + level]);
+      screen.outputs.push_back(table[pixel * screenquality::kLevels + level]);
     }
   }
   return screen;

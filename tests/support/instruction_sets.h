@@ -30,4 +30,13 @@ class WithInstructions {
   ~WithInstructions();
 };
 
+// Calls check(name) once with each set.
+template <typename Check>
+void withEveryInstructionSet(Check check) {
+  for (const InstructionSet& set : instructionSets()) {
+    const WithInstructions only(set);
+    check(set.name.c_str());
+  }
+}
+
 }  // namespace gdi::test

@@ -60,7 +60,7 @@ Screen screenOf(const HalftoneScreen& loaded, int depth) {
   const auto levels = static_cast<std::size_t>(header.levels());
   const int inputShift = 8 - header.inputDepth;
   const int outputShift = std::max(header.outputDepth - depth, 0);
-  const std::span<const std::uint8_t> table = loaded.table();
+  const std::vector<std::uint8_t> table = loaded.table();
   screen.outputs.reserve(kLevels * screen.tile.size());
   for (std::size_t level = 0; level < kLevels; ++level) {
     for (std::size_t pixel = 0; pixel < screen.tile.size(); ++pixel) {
