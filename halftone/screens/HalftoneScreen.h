@@ -53,8 +53,8 @@ class HalftoneScreen {
 
   ScreenHeader header_;
   std::vector<std::uint8_t> packedTable_;    // as in the file
-  std::optional<ThresholdTile> thresholds_;  // when every cell rises; otherwise
-  std::vector<std::uint8_t> walkedTable_;    // one entry a byte
+  std::optional<ThresholdTile> thresholds_;  // when every cell rises
+  std::vector<std::uint8_t> walkedTable_;    // otherwise: the table, one entry a byte
   bool leavesPaperBlank_ = true;
 };
 
