@@ -7,6 +7,7 @@
 #include <cstdio>
 #include <cstring>
 #include <span>
+#include <utility>
 
 #include <cups/cups.h>
 #include <unistd.h>
@@ -118,7 +119,11 @@ bool PlanarFilter::chooseScreenSet() {
 
 bool PlanarFilter::loadScreenSet() {
   CPSDebugLog("PlanarFilter loading screen set: %s", halftoneKey.c_str());
-  halftoner = Halftoner::initWithScreenSetKey(halftoneKey);
+  if (lastHalftoner_ != nullptr && lastHalftoner_->isCurrent(halftoneKey)) {
+    halftoner = std::move(lastHalftoner_);
+  } else {
+    halftoner = Halftoner::initWithScreenSetKey(halftoneKey);
+  }
   if (halftoner == nullptr) {
     CPSDebugAssert_("PlanarFilter failed to allocate halftoner");
     return false;
@@ -196,7 +201,7 @@ bool PlanarFilter::endPage(std::uint32_t page) {
   const bool result = RasterFilter::endPage(page);
   deletePlanes();
   channelCount = 0;
-  halftoner.reset();
+  lastHalftoner_ = std::move(halftoner);
   halftoneKey.clear();
   endColorSync();
   return result;

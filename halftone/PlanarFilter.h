@@ -75,6 +75,8 @@ class PlanarFilter : public RasterFilter {
   void warnUnmatched(const std::string& what, CMError error, const char* why = nullptr);
   void deletePlanes();
 
+  // The last page's, for the next one, which mostly loads the same screens from the same files.
+  std::unique_ptr<Halftoner> lastHalftoner_;
   bool paperStaysBlank_ = false;   // of the page's screens: see Halftoner::leavesPaperBlank
   bool matchingExpected_ = false;  // the bundle states a system before 10.3, not merely none
   bool unmatchedTold_ = false;

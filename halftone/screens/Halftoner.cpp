@@ -24,23 +24,8 @@ bool fail(const char* message) {
   return false;
 }
 
-// ScreenSets.plist as a value; nothing, with a message, when it cannot be had.
-std::optional<PropertyListValue> readScreenSets() {
-  const auto path = NSBundle::mainBundle().pathForResource("ScreenSets", "plist");
-  if (!path) {
-    (void)fail("ERROR: Couldn't find ScreenSets.plist\n");
-    return std::nullopt;
-  }
-  const auto contents = contentsOfFile(*path);
-  if (!contents) {
-    (void)fail("ERROR: Couldn't load ScreenSets.plist contents\n");
-    return std::nullopt;
-  }
-  auto screenSets = propertyListWithData(*contents);
-  if (!screenSets) {
-    (void)fail("ERROR: Couldn't deserialize ScreenSets.plist\n");
-  }
-  return screenSets;
+std::optional<std::filesystem::path> screenSetsPath() {
+  return NSBundle::mainBundle().pathForResource("ScreenSets", "plist");
 }
 
 // The set's "Depth", a number outside the range of int as the nearest end of it; 0 when missing.
@@ -59,6 +44,32 @@ Halftoner::Halftoner(std::string screenSetKey) : screenSetKey_(std::move(screenS
 std::unique_ptr<Halftoner> Halftoner::initWithScreenSetKey(const std::string& screenSetKey) {
   std::unique_ptr<Halftoner> halftoner(new Halftoner(screenSetKey));
   return halftoner->loadScreenSet() ? std::move(halftoner) : nullptr;
+}
+
+bool Halftoner::isCurrent(const std::string& screenSetKey) const {
+  return screenSetKey == screenSetKey_ && screenSetsPath() == screenSets_ &&
+         std::ranges::all_of(files_, [](const FileState& file) { return file.isUnchanged(); });
+}
+
+// ScreenSets.plist as a value; nothing, with a message, when it cannot be had.
+std::optional<PropertyListValue> Halftoner::readScreenSets() {
+  const auto path = screenSetsPath();
+  if (!path) {
+    (void)fail("ERROR: Couldn't find ScreenSets.plist\n");
+    return std::nullopt;
+  }
+  screenSets_ = *path;
+  files_.emplace_back(*path);
+  const auto contents = contentsOfFile(*path);
+  if (!contents) {
+    (void)fail("ERROR: Couldn't load ScreenSets.plist contents\n");
+    return std::nullopt;
+  }
+  auto screenSets = propertyListWithData(*contents);
+  if (!screenSets) {
+    (void)fail("ERROR: Couldn't deserialize ScreenSets.plist\n");
+  }
+  return screenSets;
 }
 
 bool Halftoner::loadScreenSet() {
@@ -111,7 +122,11 @@ const HalftoneScreen* Halftoner::screenNamed(const std::string& name) {
     return cached->second.get();
   }
   const auto path = NSBundle::mainBundle().pathForResource(name, "", "Screens");
-  auto screen = path ? HalftoneScreen::initWithFile(*path) : nullptr;
+  if (!path) {
+    return nullptr;
+  }
+  files_.emplace_back(*path);
+  auto screen = HalftoneScreen::initWithFile(*path);
   if (screen == nullptr) {
     return nullptr;
   }

@@ -12,10 +12,12 @@
 #include <cstdint>
 #include <map>
 #include <memory>
+#include <optional>
 #include <span>
 #include <string>
 #include <vector>
 
+#include "halftone/screens/FileState.h"
 #include "halftone/screens/HalftoneScreen.h"
 #include "platform/PropertyList.h"
 
@@ -26,6 +28,10 @@ class Halftoner {
   // The halftoner of the set with that key; null, with a message (none when the set has not
   // exactly four screens), when anything of the set is missing or wrong.
   static std::unique_ptr<Halftoner> initWithScreenSetKey(const std::string& screenSetKey);
+
+  // Whether initWithScreenSetKey of that key would now load what this halftoner has: the same set
+  // of the same bundle, no file of which was touched.
+  [[nodiscard]] bool isCurrent(const std::string& screenSetKey) const;
 
   // Bits a pixel of every plane: 1, 2, 4 or 8.
   [[nodiscard]] int outputDepth() const { return outputDepth_; }
@@ -52,12 +58,15 @@ class Halftoner {
  private:
   explicit Halftoner(std::string screenSetKey);
   bool loadScreenSet();
+  std::optional<PropertyListValue> readScreenSets();
   bool loadScreens(const PropertyListValue::Array& names);
   bool appendScreen(const PropertyListValue& entry);
   const HalftoneScreen* screenNamed(const std::string& name);
 
   std::string screenSetKey_;
   int outputDepth_ = 0;
+  std::filesystem::path screenSets_;  // ScreenSets.plist
+  std::vector<FileState> files_;      // all that was read
   std::map<std::string, std::unique_ptr<HalftoneScreen>> screenCache_;
   std::vector<const HalftoneScreen*> screenList_;  // in plane order, owned by screenCache_
 };

@@ -4,6 +4,8 @@
 #include "halftone/PlanarFilter.h"
 
 #include <array>
+#include <chrono>
+#include <filesystem>
 #include <optional>
 
 #include <gtest/gtest.h>
@@ -262,12 +264,33 @@ TEST_F(PlanarFilterTest, ALineThatCannotBeScreenedIsNotApprovedAndFails) {
   EXPECT_EQ(filter_->rasterBand[0]->band(0), nullptr);
 }
 
-TEST_F(PlanarFilterTest, EveryPageLoadsItsScreenSetAnew) {
+TEST_F(PlanarFilterTest, EveryPageLoadsTheScreenSetOfItsKey) {
   ASSERT_TRUE(filter_->begin(test::pageHeader(16, 8, 4)));
   ASSERT_TRUE(filter_->endPage(0));
   ASSERT_TRUE(filter_->begin(test::pageHeader(16, 8, 1)));
   EXPECT_EQ(log_.count("PlanarFilter loading screen set: FastPlainColor"), 1U);
   EXPECT_EQ(log_.count("PlanarFilter loading screen set: FastPlainMono"), 1U);
+}
+
+TEST_F(PlanarFilterTest, AScreenThatChangesBetweenPagesPrintsOnTheNext) {
+  const std::filesystem::path screen = bundle_.folder().path() / "Screens/one";
+  const auto hourAgo = std::filesystem::file_time_type::clock::now() - std::chrono::hours(1);
+  for (const auto& entry : std::filesystem::recursive_directory_iterator(bundle_.folder().path())) {
+    std::filesystem::last_write_time(entry, hourAgo);
+  }
+  const auto printedOn = [&](std::uint8_t sample) {
+    EXPECT_TRUE(filter_->begin(test::pageHeader(2, 1, 1)));
+    EXPECT_TRUE(filter_->sendLine(0, {sample, sample}));
+    const std::uint8_t printed = filter_->planeRow(0, 0).front();
+    EXPECT_TRUE(filter_->endPage(0));
+    return printed;
+  };
+  EXPECT_EQ(printedOn(255), 0b11000000);
+  EXPECT_EQ(printedOn(255), 0b11000000);
+  std::filesystem::copy_file(bundle_.folder().path() / "Screens/negative", screen,
+                             std::filesystem::copy_options::overwrite_existing);
+  EXPECT_EQ(printedOn(255), 0);
+  EXPECT_EQ(printedOn(0), 0b11000000);
 }
 
 }  // namespace

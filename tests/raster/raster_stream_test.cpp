@@ -201,5 +201,23 @@ TEST_F(CupsStreamJob, OfACutSecondHeaderEndsAfterTheFirstPage) {
   EXPECT_EQ(filter_.cupsPageHeader.cupsWidth, 2U);
 }
 
+#ifdef F_GETPIPE_SZ
+TEST(RasterStreamPipe, TakesMoreThanAPipeUsually) {
+  std::array<int, 2> ends{};
+  ASSERT_EQ(pipe(ends.data()), 0);
+  constexpr int kBytes = 1 << 18;
+  const bool mayGrow = fcntl(ends[0], F_SETPIPE_SZ, kBytes) >= kBytes;
+  ASSERT_GE(fcntl(ends[0], F_SETPIPE_SZ, 4096), 4096);
+  close(ends[1]);  // an empty stream
+  const auto stream = openRasterStream(ends[0]);
+  if (mayGrow) {
+    EXPECT_GE(fcntl(ends[0], F_GETPIPE_SZ), kBytes);
+  }
+  cups_page_header_t header{};
+  EXPECT_FALSE(stream->readHeader(header));
+  close(ends[0]);
+}
+#endif
+
 }  // namespace
 }  // namespace gdi

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include <array>
+#include <chrono>
 #include <filesystem>
 #include <fstream>
 #include <memory>
@@ -162,6 +163,48 @@ TEST_F(ScreenSet, EveryHalftonerReadsTheListAndTheScreensAfresh) {
   ASSERT_NE(Halftoner::initWithScreenSetKey("TestSet"), nullptr);
   std::filesystem::remove(folder_ / "Screens" / "ident");
   expectRefused("ERROR: Couldn't instantiate screen from name ident\n");
+}
+
+class CurrentScreenSet : public ScreenSet {
+ protected:
+  void SetUp() override {
+    ScreenSet::SetUp();
+    setTestSet(depth(1) + screens({"ident", "ident", "zeros", "ident"}));
+    makeOld("ScreenSets.plist");
+    makeOld("Screens/ident");
+    makeOld("Screens/zeros");
+    halftoner_ = Halftoner::initWithScreenSetKey("TestSet");
+    ASSERT_NE(halftoner_, nullptr);
+  }
+  // As if written an hour ago.
+  void makeOld(const char* name) const {
+    std::filesystem::last_write_time(
+        folder_ / name, std::filesystem::file_time_type::clock::now() - std::chrono::hours(1));
+  }
+
+  std::unique_ptr<Halftoner> halftoner_;
+};
+
+TEST_F(CurrentScreenSet, IsOneOfThatKeyWhoseFilesNobodyTouched) {
+  EXPECT_TRUE(halftoner_->isCurrent("TestSet"));
+  EXPECT_FALSE(halftoner_->isCurrent("OtherSet"));
+}
+
+TEST_F(CurrentScreenSet, IsNoneWhoseListWasWrittenAnew) {
+  setTestSet(depth(1) + screens({"zeros", "ident", "ident", "ident"}));
+  EXPECT_FALSE(halftoner_->isCurrent("TestSet"));
+}
+
+TEST_F(CurrentScreenSet, IsNoneOfWhichAScreenWasWrittenAnewOrIsGone) {
+  addScreen("zeros", screenFile("1 1 1 1 1", {0x40}));
+  EXPECT_FALSE(halftoner_->isCurrent("TestSet"));
+  std::filesystem::remove(folder_ / "Screens" / "zeros");
+  EXPECT_FALSE(halftoner_->isCurrent("TestSet"));
+}
+
+TEST_F(CurrentScreenSet, IsNoneOfAnotherBundle) {
+  NSBundle::setMainBundle(folder_ / "Screens");
+  EXPECT_FALSE(halftoner_->isCurrent("TestSet"));
 }
 
 }  // namespace
