@@ -71,12 +71,8 @@ RasterBandBuffer::RasterBandBuffer(int pixelHeight, int rowBytes, int bandHeight
       inkedBands_(static_cast<std::size_t>(totalBands)) {
 }
 
-std::int64_t RasterBandBuffer::rowOfLine(int line) const {
-  return flipped_ ? std::int64_t{pixelHeight_} - 1 - line : line;
-}
-
 std::uint8_t* RasterBandBuffer::rasterLine(int line) {
-  const std::int64_t row = rowOfLine(line);
+  const std::int64_t row = flipped_ ? std::int64_t{pixelHeight_} - 1 - line : line;
   const std::int64_t offset = row * rowBytes_;
   if (offset < 0 || offset >= fileSize_) {
     endOnBadLine(line, offset);

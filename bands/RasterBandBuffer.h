@@ -33,7 +33,8 @@ class RasterBandBuffer {
   void approveRasterLine(int line);
 
   // As approveRasterLine, for a line that was never asked for with rasterLine: its row is all
-  // zeros. In a new file that takes no memory.
+  // zeros. In a new file nothing is written, so that no memory is taken but what the file system
+  // reserved.
   void approveBlankLine(int line);
 
   // The first row of band `index`; null when there is no such band or a line of it is not yet
@@ -58,7 +59,6 @@ class RasterBandBuffer {
  private:
   RasterBandBuffer(int pixelHeight, int rowBytes, int bandHeight, int totalBands,
                    std::unique_ptr<mmapFile> mapFile);
-  [[nodiscard]] std::int64_t rowOfLine(int line) const;
   [[noreturn]] void endOnBadLine(int line, std::int64_t offset) const;
 
   std::unique_ptr<mmapFile> mapFile_;

@@ -38,6 +38,7 @@ add_library(gdi_highway INTERFACE)
 target_include_directories(gdi_highway SYSTEM INTERFACE ${HWY_INCLUDE_DIRS})
 target_compile_definitions(gdi_highway INTERFACE
   HWY_WANT_AVX3_DL
+  $<$<NOT:$<STREQUAL:${CMAKE_SYSTEM_PROCESSOR},x86_64>>:HWY_COMPILE_ONLY_STATIC>
   HWY_IS_DEBUG_BUILD=0)  # whose checks are in the library
 
 # gdi_headers(NAME [OPTIONS option...] [HEADERS <header>...] [DEPENDS target...]): the usual standard

@@ -111,8 +111,8 @@ class MatchSearch {
     return limit;
   }
 
-  Position last_ = -1;
-  Position knownAt_ = -1;  // a position whose set of distances is known
+  Position last_ = 0;
+  Position knownAt_ = 0;  // a position whose set of distances is known
   Distances known_{};
   // The row behind a window of words that count for nothing, and before as many again, so that
   // whole vectors can be compared everywhere.

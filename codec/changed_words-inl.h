@@ -44,7 +44,6 @@ class ChangedWords {
       changed_[static_cast<std::size_t>(set)] = bits;
       any |= bits;
     }
-    changed_[static_cast<std::size_t>(sets_)] = 0;  // ends every run
     return any != 0;
   }
 
@@ -83,7 +82,7 @@ class ChangedWords {
     return set * kSetBits + std::countr_zero(bits);
   }
 
-  std::array<std::uint64_t, kMaxEncodableRowBytes / 2 / kSetBits + 1> changed_;
+  std::array<std::uint64_t, kMaxEncodableRowBytes / 2 / kSetBits> changed_;
   Position sets_ = 0;
 };
 

@@ -11,6 +11,7 @@
 #define GDI_CODEC_WORD_MASKS_INL_H
 #endif
 
+#include <bit>
 #include <cstdint>
 
 #include <hwy/highway.h>
@@ -31,7 +32,7 @@ template <class Mask>
 HWY_INLINE std::uint64_t bitsOf(Mask mask) {
   std::uint64_t bits = 0;
   (void)hn::StoreMaskBits(kWords, mask, reinterpret_cast<std::uint8_t*>(&bits));
-  return bits;
+  return std::endian::native == std::endian::little ? bits : __builtin_bswap64(bits);
 }
 
 // Which of the 64 words at `a` differ from those at `b`.

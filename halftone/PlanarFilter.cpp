@@ -122,6 +122,7 @@ bool PlanarFilter::loadScreenSet() {
   if (lastHalftoner_ != nullptr && lastHalftoner_->isCurrent(halftoneKey)) {
     halftoner = std::move(lastHalftoner_);
   } else {
+    lastHalftoner_.reset();
     halftoner = Halftoner::initWithScreenSetKey(halftoneKey);
   }
   if (halftoner == nullptr) {

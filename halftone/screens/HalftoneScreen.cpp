@@ -40,17 +40,17 @@ std::unique_ptr<HalftoneScreen> HalftoneScreen::loadFromData(std::span<const std
 
 // `table` is of the size that the header asks for, so it bounds what is allocated here.
 HalftoneScreen::HalftoneScreen(const ScreenHeader& header, std::span<const std::uint8_t> table)
-    : header_(header),
-      packedTable_(table.begin(), table.end()),
-      thresholds_(ThresholdTile::fromTable(header, table)) {
-  if (!thresholds_) {
+    : header_(header), thresholds_(ThresholdTile::fromTable(header, table)) {
+  if (thresholds_) {
+    packedTable_.assign(table.begin(), table.end());
+  } else {
     walkedTable_ = unpackedTable(header, table);
     leavesPaperBlank_ = tableLeavesPaperBlank(header_, walkedTable_);
   }
 }
 
 std::vector<std::uint8_t> HalftoneScreen::table() const {
-  return unpackedTable(header_, packedTable_);
+  return thresholds_ ? unpackedTable(header_, packedTable_) : walkedTable_;
 }
 
 bool HalftoneScreen::processScanline(const std::uint8_t* input, int width, int inputStride, int row,

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The rasterToGDI authors
 // SPDX-License-Identifier: Apache-2.0
 
-// The screening of one page: the four screens of a screen set, applied to whole chunky scanlines.
+// The screening of pages: the four screens of a screen set, applied to whole chunky scanlines.
 //
 // ScreenSets.plist in the main bundle names the sets under "ScreenSets": "Depth" is the bits a
 // pixel of every plane, "Screens" the names of four files in the bundle's folder Screens, for cyan,

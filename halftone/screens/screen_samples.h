@@ -13,7 +13,7 @@ namespace gdi {
 
 // Screens one channel of a line from the tile's first column on.
 //   input   the first sample, then one every `stride` bytes; nothing beyond the last is read
-//   width   samples
+//   width   samples, at least 1
 //   row     the thresholds for `depth`
 //   depth   1, 2, 4 or 8 bits a pixel
 //   output  receives exactly ceil(width x depth / 8) bytes, the first pixel in the most significant

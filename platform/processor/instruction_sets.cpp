@@ -23,6 +23,8 @@ bool always() {
 
 #if defined(__x86_64__)
 
+// Each asks for what Highway lets the compiler use, but for instructions that nothing here becomes:
+// F16C with AVX2, VAES and AVX-VNNI with AVX3_DL.
 bool hasSSSE3() {
   return __builtin_cpu_supports("ssse3");
 }
@@ -64,13 +66,21 @@ constexpr std::array<InstructionSet, kInstructionSets> kSets{{{"baseline", true,
 
 #endif
 
+bool usable(const InstructionSet& set) {
+  return set.compiled && set.supported();
+}
+
 std::optional<std::size_t> setInUse;
 
 }  // namespace
 
 std::size_t instructionSet() {
   if (!setInUse) {
-    setInUse = supportedInstructionSets().front();
+    std::size_t place = 0;
+    while (!usable(kSets.at(place))) {  // the last one is
+      ++place;
+    }
+    setInUse = place;
   }
   return *setInUse;
 }
@@ -78,7 +88,7 @@ std::size_t instructionSet() {
 std::vector<std::size_t> supportedInstructionSets() {
   std::vector<std::size_t> places;
   for (std::size_t place = 0; place < kSets.size(); ++place) {
-    if (kSets.at(place).compiled && kSets.at(place).supported()) {
+    if (usable(kSets.at(place))) {
       places.push_back(place);
     }
   }

@@ -98,7 +98,9 @@ TEST(RowsInExactBuffers, AreReadToTheirEndAndNoFarther) {
       const auto size =
           pc4sc4::cmpCompressRow(reference.data(), row.data(), band.stride() / 4, output.data()) -
           output.data();
-      (void)plainCompressRow(reference.data(), row.data(), band.stride() / 4, plain.data());
+      ASSERT_EQ(plainCompressRow(reference.data(), row.data(), band.stride() / 4, plain.data()) -
+                    plain.data(),
+                size);
       EXPECT_TRUE(std::ranges::equal(std::span(output).first(static_cast<std::size_t>(size)),
                                      std::span(plain).first(static_cast<std::size_t>(size))))
           << set.name << ", " << words << " words";

@@ -21,7 +21,7 @@ namespace {
 
 using Bytes = std::vector<std::uint8_t>;
 
-// Calls check(name, bytes of the file) for every screen.
+// Calls check(bytes of the file) for every screen.
 template <typename Check>
 void forEveryScreen(Check check) {
   std::size_t screens = 0;
