@@ -65,8 +65,6 @@ class MatchSearch {
 
  private:
   static constexpr Position kWindow = kMaxDistance;
-  // A match longer than this is taken at once.
-  static constexpr Position kGoodEnoughLength = 9;
 
   // Bit i stands for the word i places behind the one 128 before.
   struct Distances {

@@ -20,6 +20,9 @@ struct Match {
   Position length;  // pixel words; may overlap the place it is to be copied to
 };
 
+// A match longer than this is taken at once, even if a nearer one would be longer.
+inline constexpr Position kGoodEnoughLength = 9;
+
 class CodeWriter {
  public:
   CodeWriter(const std::uint8_t* row, std::uint8_t* output) : pCurRowHead(row), cmpBuf(output) {}

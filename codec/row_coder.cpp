@@ -3,6 +3,7 @@
 
 #include "codec/row_coder.h"
 
+#include "codec/ChainSearch.h"
 #include "codec/code_writer.h"
 
 // This file is compiled once for each kind of processor, too.
@@ -10,13 +11,20 @@
 #define HWY_TARGET_INCLUDE "codec/row_coder.cpp"
 #include <hwy/foreach_target.h>
 
-#include "codec/MatchSearch-inl.h"
 #include "codec/changed_words-inl.h"
 #include "platform/processor/dispatch.h"
+
+#if HWY_TARGET != HWY_SCALAR && HWY_TARGET != HWY_EMU128
+#include "codec/MatchSearch-inl.h"
+#endif
 
 HWY_BEFORE_NAMESPACE();
 namespace gdi::pc4sc4::HWY_NAMESPACE {
 namespace {
+
+#if HWY_TARGET == HWY_SCALAR || HWY_TARGET == HWY_EMU128
+using MatchSearch = ChainSearch;
+#endif
 
 ChangedWords changedWords;
 MatchSearch matchSearch;

@@ -13,11 +13,33 @@
 
 #include <bit>
 #include <cstdint>
+#include <cstring>
 
 #include <hwy/highway.h>
 
+#include "codec/stream_word.h"
+
 HWY_BEFORE_NAMESPACE();
 namespace gdi::pc4sc4::HWY_NAMESPACE {
+
+#if HWY_TARGET == HWY_SCALAR || HWY_TARGET == HWY_EMU128
+
+HWY_INLINE std::uint64_t unequalWords64(const std::uint8_t* a, const std::uint8_t* b) {
+  std::uint64_t bits = 0;
+  for (Position first = 0; first < 64; first += 4) {
+    if (std::memcmp(a + 2 * first, b + 2 * first, 8) == 0) {
+      continue;
+    }
+    for (Position p = first; p < first + 4; ++p) {
+      if (loadPixelWord(a, p) != loadPixelWord(b, p)) {
+        bits |= std::uint64_t{1} << p;
+      }
+    }
+  }
+  return bits;
+}
+
+#else
 
 namespace hn = hwy::HWY_NAMESPACE;
 
@@ -54,6 +76,8 @@ HWY_INLINE std::uint64_t equalWords64(const std::uint8_t* a, hn::Vec<WordTag> wo
   }
   return bits;
 }
+
+#endif
 
 }  // namespace gdi::pc4sc4::HWY_NAMESPACE
 HWY_AFTER_NAMESPACE();

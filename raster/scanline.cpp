@@ -4,7 +4,10 @@
 #include "raster/scanline.h"
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
+#include <cstdint>
+#include <cstring>
 
 // This file is compiled once for each set of instructions.
 #undef HWY_TARGET_INCLUDE
@@ -97,6 +100,18 @@ void addInk(const std::uint8_t* line, std::size_t size, std::uint8_t* ink) {
     ink[i % kChannels] |= both[i];
   }
 #endif
+  std::array<std::uint8_t, 2 * kChannels> twoPixels{};
+  for (; done + twoPixels.size() <= size; done += twoPixels.size()) {
+    std::uint64_t noted = 0;
+    std::uint64_t next = 0;
+    std::memcpy(&noted, twoPixels.data(), sizeof noted);
+    std::memcpy(&next, line + done, sizeof next);
+    noted |= next;
+    std::memcpy(twoPixels.data(), &noted, sizeof noted);
+  }
+  for (std::size_t i = 0; i < twoPixels.size(); ++i) {
+    ink[i % kChannels] |= twoPixels[i];
+  }
   for (; done < size; ++done) {
     ink[done % kChannels] |= line[done];
   }

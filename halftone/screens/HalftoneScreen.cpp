@@ -10,6 +10,7 @@
 #include "halftone/screens/file_contents.h"
 #include "halftone/screens/screen_samples.h"
 #include "halftone/screens/screen_table.h"
+#include "platform/processor/instruction_sets.h"
 
 namespace gdi {
 
@@ -38,9 +39,19 @@ std::unique_ptr<HalftoneScreen> HalftoneScreen::loadFromData(std::span<const std
   return std::unique_ptr<HalftoneScreen>(new HalftoneScreen(*header, table));
 }
 
+namespace {
+
+// Thresholds are compared with many samples at a time, or not at all.
+std::optional<ThresholdTile> thresholdsOf(const ScreenHeader& header,
+                                          std::span<const std::uint8_t> table) {
+  return hasVectors() ? ThresholdTile::fromTable(header, table) : std::nullopt;
+}
+
+}  // namespace
+
 // `table` is of the size that the header asks for, so it bounds what is allocated here.
 HalftoneScreen::HalftoneScreen(const ScreenHeader& header, std::span<const std::uint8_t> table)
-    : header_(header), thresholds_(ThresholdTile::fromTable(header, table)) {
+    : header_(header), thresholds_(thresholdsOf(header, table)) {
   if (thresholds_) {
     packedTable_.assign(table.begin(), table.end());
   } else {

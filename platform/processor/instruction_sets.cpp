@@ -85,6 +85,11 @@ std::size_t instructionSet() {
   return *setInUse;
 }
 
+bool hasVectors() {
+  constexpr bool kBaselineHas = HWY_STATIC_TARGET != HWY_SCALAR && HWY_STATIC_TARGET != HWY_EMU128;
+  return kBaselineHas || instructionSet() + 1 < kInstructionSets;
+}
+
 std::vector<std::size_t> supportedInstructionSets() {
   std::vector<std::size_t> places;
   for (std::size_t place = 0; place < kSets.size(); ++place) {

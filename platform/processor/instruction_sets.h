@@ -21,6 +21,9 @@ inline constexpr std::size_t kInstructionSets = 1;
 
 // The place of the set in use.
 std::size_t instructionSet();
+// Whether that set has vectors at all. Without them, what is made for vectors is slower than plain
+// code for the same purpose.
+bool hasVectors();
 
 // The places of all that are compiled and that the processor has; at least one.
 std::vector<std::size_t> supportedInstructionSets();

@@ -1,8 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The rasterToGDI authors
 // SPDX-License-Identifier: Apache-2.0
 
-// The row coder without wide instructions: words compared one by one, and the match search by
-// chains of positions with the same hash.
+// The row coder without wide instructions: words compared one by one, matches searched in chains.
 #pragma once
 
 #include <cstddef>

@@ -17,6 +17,7 @@
 
 #include "tests/screens/PixelByPixel.h"
 #include "tests/screens/screen_bytes.h"
+#include "tests/support/instruction_sets.h"
 
 namespace gdi {
 namespace {
@@ -157,6 +158,19 @@ TEST(BlankPaper, IsLeftBlankWhenLevel0GivesNothingInEveryCell) {
   EXPECT_FALSE(leavesBlank("1 2 1 1 1", {0x60}));
   EXPECT_TRUE(leavesBlank("1 2 1 1 8", {0, 255, 0, 1}));
   EXPECT_FALSE(leavesBlank("1 2 1 1 8", {0, 255, 1, 1}));
+}
+
+TEST(Screening, OfARisingScreenIsTheSameWhateverTheProcessorAtItsLoading) {
+  const Bytes table{0x1B, 0x06};  // two cells of four levels: 0 1 2 3 and 0 0 1 2
+  const PixelByPixel expected(2, 1, 2, 2, table);
+  const Bytes input{0, 64, 128, 192, 255, 0, 70, 200, 130};
+  test::withEveryInstructionSet([&](const char* target) {
+    const auto screen = screenOf("1 2 1 2 2", table);
+    ASSERT_NE(screen, nullptr) << target;
+    EXPECT_EQ(screened(*screen, input, 0, 2), expected.row(input, 0, 2)) << target;
+    EXPECT_EQ(screen->table(), (Bytes{0, 1, 2, 3, 0, 0, 1, 2})) << target;
+    EXPECT_TRUE(screen->leavesPaperBlank()) << target;
+  });
 }
 
 class ScreeningAtDepths : public testing::TestWithParam<std::tuple<int, int, int>> {};
