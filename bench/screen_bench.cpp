@@ -4,6 +4,7 @@
 #include <array>
 #include <filesystem>
 #include <memory>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -18,9 +19,23 @@ namespace {
 
 constexpr std::array kQualities{"Fast", "Standard", "Fine"};
 
-std::string keyOf(const benchmark::State& state, int channels) {
-  return std::string(kQualities.at(static_cast<std::size_t>(state.range(2)))) + "Plain" +
-         (channels == 1 ? "Mono" : "Color");
+// The shipped set of the benchmark's channels and quality; null, told as its error, when it is
+// gone.
+std::unique_ptr<Halftoner> shippedSet(benchmark::State& state) {
+  NSBundle::setMainBundle(GDI_BUNDLE);
+  const std::string key = std::string(kQualities.at(static_cast<std::size_t>(state.range(2)))) +
+                          "Plain" + (state.range(1) == 1 ? "Mono" : "Color");
+  std::unique_ptr<Halftoner> set = Halftoner::initWithScreenSetKey(key);
+  if (set == nullptr) {
+    state.SkipWithError("no such screen set");
+  }
+  return set;
+}
+
+// The screens of its planes.
+std::span<const HalftoneScreen* const> screensOf(const benchmark::State& state,
+                                                 const Halftoner& set) {
+  return set.screens().last(static_cast<std::size_t>(state.range(1)));
 }
 
 // The same screen but for one entry: level 0 of the first pixel is ink, so that it does not rise.
@@ -69,30 +84,24 @@ void screenLines(benchmark::State& state, const Screens& screens, int depth) {
 
 // Arguments: content, channels (1 or 4), quality (0 to 2).
 void ScreenByThresholds(benchmark::State& state) {
-  NSBundle::setMainBundle(GDI_BUNDLE);
-  const auto channels = static_cast<int>(state.range(1));
-  const std::unique_ptr<Halftoner> set = Halftoner::initWithScreenSetKey(keyOf(state, channels));
+  const std::unique_ptr<Halftoner> set = shippedSet(state);
   if (set == nullptr) {
-    state.SkipWithError("no such screen set");
     return;
   }
-  const auto screens = set->screens().last(static_cast<std::size_t>(channels));
+  const auto screens = screensOf(state, *set);
   screenLines(state, Screens(screens.begin(), screens.end()), set->outputDepth());
 }
 BENCHMARK(ScreenByThresholds)
     ->ArgsProduct({benchmark::CreateDenseRange(0, kContents - 1, 1), {1, 4}, {0, 1, 2}});
 
 void ScreenByTable(benchmark::State& state) {
-  NSBundle::setMainBundle(GDI_BUNDLE);
-  const auto channels = static_cast<int>(state.range(1));
-  const std::unique_ptr<Halftoner> set = Halftoner::initWithScreenSetKey(keyOf(state, channels));
+  const std::unique_ptr<Halftoner> set = shippedSet(state);
   if (set == nullptr) {
-    state.SkipWithError("no such screen set");
     return;
   }
   std::vector<std::unique_ptr<HalftoneScreen>> owned;
   Screens screens;
-  for (const HalftoneScreen* screen : set->screens().last(static_cast<std::size_t>(channels))) {
+  for (const HalftoneScreen* screen : screensOf(state, *set)) {
     owned.push_back(notRising(*screen));
     screens.push_back(owned.back().get());
   }
