@@ -99,8 +99,10 @@ bool mmapFile::sizeAndMap(int descriptor) {
     CPSDebugLog("mmapFile openFile: Failed to map channel file");
     return false;
   }
-  // A page fault for every 2 MiB instead of every 4 KiB, where the file system can do so.
-  (void)madvise(memory_, size_, MADV_HUGEPAGE);
+  if (memory_ != MAP_FAILED) {
+    // A page fault for every 2 MiB instead of every 4 KiB, where the file system can do so.
+    (void)madvise(memory_, size_, MADV_HUGEPAGE);
+  }
   const auto start = reinterpret_cast<unsigned long>(memory_);
   CPSDebugLog("mmapFile openFile: Created buffer from 0x%8.8lx to 0x%8.8lx", start, start + size_);
   return true;

@@ -28,19 +28,12 @@ class ChangedWords {
   bool compare(const std::uint8_t* row, const std::uint8_t* reference, Position words) {
     sets_ = (words + kSetBits - 1) / kSetBits;
     std::uint64_t any = 0;
-    Position p = 0;
     for (Position set = 0; set < sets_; ++set) {
-      std::uint64_t bits = 0;
-      if (p + kSetBits <= words) {
-        bits = unequalWords64(row + 2 * p, reference + 2 * p);
-        p += kSetBits;
-      } else {
-        for (; p < words; ++p) {
-          if (loadPixelWord(row, p) != loadPixelWord(reference, p)) {
-            bits |= std::uint64_t{1} << (p % kSetBits);
-          }
-        }
-      }
+      const Position first = set * kSetBits;
+      const std::uint8_t* const a = row + 2 * first;
+      const std::uint8_t* const b = reference + 2 * first;
+      const std::uint64_t bits =
+          first + kSetBits <= words ? unequalWords64(a, b) : unequalWords(a, b, words - first);
       changed_[static_cast<std::size_t>(set)] = bits;
       any |= bits;
     }

@@ -36,6 +36,20 @@ inline Word literalDataWord(const std::uint8_t* row, Position p) {
   return static_cast<Word>((row[2 * p] << 8) | row[2 * p + 1]);
 }
 
+// Which of the `count` pixel words, 64 at most, at `a` differ from those at `b`: a bit for each,
+// the first word's the lowest.
+inline std::uint64_t unequalWords(const std::uint8_t* a, const std::uint8_t* b, Position count) {
+  std::uint64_t bits = 0;
+  for (Position p = 0; p < count; ++p) {
+    if (count - p >= 4 && std::memcmp(a + 2 * p, b + 2 * p, 8) == 0) {
+      p += 3;
+    } else if (loadPixelWord(a, p) != loadPixelWord(b, p)) {
+      bits |= std::uint64_t{1} << p;
+    }
+  }
+  return bits;
+}
+
 // The bytes between the starts of two bitmap rows: `rowBytes` rounded up to a multiple of 4.
 inline std::size_t rowStride(std::uint32_t rowBytes) {
   return (static_cast<std::size_t>(rowBytes) + 3) / 4 * 4;

@@ -13,7 +13,6 @@
 
 #include <bit>
 #include <cstdint>
-#include <cstring>
 
 #include <hwy/highway.h>
 
@@ -25,18 +24,7 @@ namespace gdi::pc4sc4::HWY_NAMESPACE {
 #if HWY_TARGET == HWY_SCALAR || HWY_TARGET == HWY_EMU128
 
 HWY_INLINE std::uint64_t unequalWords64(const std::uint8_t* a, const std::uint8_t* b) {
-  std::uint64_t bits = 0;
-  for (Position first = 0; first < 64; first += 4) {
-    if (std::memcmp(a + 2 * first, b + 2 * first, 8) == 0) {
-      continue;
-    }
-    for (Position p = first; p < first + 4; ++p) {
-      if (loadPixelWord(a, p) != loadPixelWord(b, p)) {
-        bits |= std::uint64_t{1} << p;
-      }
-    }
-  }
-  return bits;
+  return unequalWords(a, b, 64);
 }
 
 #else

@@ -55,13 +55,13 @@ HalftoneScreen::HalftoneScreen(const ScreenHeader& header, std::span<const std::
   if (thresholds_) {
     packedTable_.assign(table.begin(), table.end());
   } else {
-    walkedTable_ = unpackedTable(header, table);
-    leavesPaperBlank_ = tableLeavesPaperBlank(header_, walkedTable_);
+    unpackedData_ = unpackedTable(header, table);
+    leavesPaperBlank_ = tableLeavesPaperBlank(header_, unpackedData_);
   }
 }
 
 std::vector<std::uint8_t> HalftoneScreen::table() const {
-  return thresholds_ ? unpackedTable(header_, packedTable_) : walkedTable_;
+  return thresholds_ ? unpackedTable(header_, packedTable_) : unpackedData_;
 }
 
 bool HalftoneScreen::processScanline(const std::uint8_t* input, int width, int inputStride, int row,
@@ -81,8 +81,8 @@ bool HalftoneScreen::processScanline(const std::uint8_t* input, int width, int i
                   thresholds_->row(tileRow, outputDepth), outputDepth, outputBuffer);
     return true;
   }
-  const std::size_t rowEntries = walkedTable_.size() / static_cast<std::size_t>(header_.height);
-  screenByTable(header_, std::span(walkedTable_).subspan(tileRow * rowEntries, rowEntries), input,
+  const std::size_t rowEntries = unpackedData_.size() / static_cast<std::size_t>(header_.height);
+  screenByTable(header_, std::span(unpackedData_).subspan(tileRow * rowEntries, rowEntries), input,
                 width, inputStride, outputDepth, outputBuffer);
   return true;
 }

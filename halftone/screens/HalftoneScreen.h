@@ -52,9 +52,9 @@ class HalftoneScreen {
   HalftoneScreen(const ScreenHeader& header, std::span<const std::uint8_t> table);
 
   ScreenHeader header_;
-  std::vector<std::uint8_t> packedTable_;    // as in the file
-  std::optional<ThresholdTile> thresholds_;  // when every cell rises
-  std::vector<std::uint8_t> walkedTable_;    // otherwise: the table, one entry a byte
+  std::vector<std::uint8_t> packedTable_;    // as in the file, when every cell rises;
+  std::optional<ThresholdTile> thresholds_;  // then, too
+  std::vector<std::uint8_t> unpackedData_;   // otherwise: the table, one entry a byte
   bool leavesPaperBlank_ = true;
 };
 

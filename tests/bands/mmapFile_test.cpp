@@ -3,6 +3,7 @@
 
 #include "bands/mmapFile.h"
 
+#include <cerrno>
 #include <csignal>
 #include <cstdint>
 #include <cstdio>
@@ -226,7 +227,9 @@ TEST_F(MappedFile, AMappingThatTheSystemRefusesIsNotTakenForAFailure) {
   if (fcntl(sealed.descriptor(), F_ADD_SEALS, sealFutureWrite) != 0) {
     GTEST_SKIP() << "no file at hand that cannot be mapped for writing";
   }
+  errno = 0;
   const auto file = mmapFile::initWithFile(sealed.path().c_str(), 4096);
+  EXPECT_EQ(errno, EPERM);  // the reason, for the caller to tell
   ASSERT_NE(file, nullptr);
   EXPECT_EQ(file->memory(), MAP_FAILED);
   EXPECT_EQ(file->size(), 4096U);
